@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <cstddef>
+#include <cstdint>
+
+// One entry of an enumeration, the fields the product reads from hidapi's list.
+struct HidDeviceInfo
+{
+    QByteArray path;
+    quint16 vendorId = 0;
+    quint16 productId = 0;
+    quint16 usagePage = 0;
+    quint16 usage = 0;
+    int interfaceNumber = -1;
+    QString manufacturer;
+    QString product;
+};
+
+// An open device. Backends subclass it; callers only pass it back.
+class HidHandle
+{
+public:
+    virtual ~HidHandle() = default;
+};
+
+// Every HID call of the product goes through this interface. The methods mirror the hidapi
+// functions one to one, with the same results: a count of bytes, or -1 on failure.
+class HidBackend
+{
+public:
+    virtual ~HidBackend() = default;
+
+    // hid_enumerate + hid_free_enumeration; vid or pid 0 match any.
+    virtual QList<HidDeviceInfo> enumerate(quint16 vendorId, quint16 productId) = 0;
+    // hid_open_path; null when the device can't be opened.
+    virtual HidHandle* openPath(const QByteArray& path) = 0;
+    // hid_close; the handle is gone afterwards. Null is ignored.
+    virtual void close(HidHandle* handle) = 0;
+    virtual int setNonblocking(HidHandle* handle, bool nonblocking) = 0;
+    virtual int sendFeatureReport(HidHandle* handle, const quint8* data, size_t length) = 0;
+    virtual int getFeatureReport(HidHandle* handle, quint8* data, size_t length) = 0;
+    virtual int write(HidHandle* handle, const quint8* data, size_t length) = 0;
+    // hid_read: blocks or not as set with setNonblocking.
+    virtual int read(HidHandle* handle, quint8* data, size_t length) = 0;
+    virtual int readTimeout(HidHandle* handle, quint8* data, size_t length, int milliseconds) = 0;
+};

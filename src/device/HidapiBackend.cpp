@@ -1,0 +1,106 @@
+#include "HidapiBackend.h"
+
+#include "DeviceLog.h"
+
+#include <hidapi.h>
+
+namespace {
+
+class HidapiHandle : public HidHandle
+{
+public:
+    explicit HidapiHandle(hid_device* d) : device(d) {}
+    hid_device* device;
+};
+
+hid_device* raw(HidHandle* handle)
+{
+    auto* h = static_cast<HidapiHandle*>(handle);
+    return h ? h->device : nullptr;
+}
+
+QString fromWide(const wchar_t* text)
+{
+    return text ? QString::fromWCharArray(text) : QString();
+}
+
+} // namespace
+
+HidapiBackend::HidapiBackend()
+{
+    hid_init();
+}
+
+HidapiBackend::~HidapiBackend()
+{
+    hid_exit();
+}
+
+QList<HidDeviceInfo> HidapiBackend::enumerate(quint16 vendorId, quint16 productId)
+{
+    QList<HidDeviceInfo> list;
+    hid_device_info* first = hid_enumerate(vendorId, productId);
+    for (hid_device_info* i = first; i; i = i->next) {
+        HidDeviceInfo info;
+        info.path = QByteArray(i->path);
+        info.vendorId = i->vendor_id;
+        info.productId = i->product_id;
+        info.usagePage = i->usage_page;
+        info.usage = i->usage;
+        info.interfaceNumber = i->interface_number;
+        info.manufacturer = fromWide(i->manufacturer_string);
+        info.product = fromWide(i->product_string);
+        list.append(info);
+    }
+    hid_free_enumeration(first);
+    return list;
+}
+
+HidHandle* HidapiBackend::openPath(const QByteArray& path)
+{
+    hid_device* device = hid_open_path(path.constData());
+    if (!device) {
+        qCWarning(lcDevice) << "hid_open_path failed for" << path
+                            << "(on Linux this is usually a missing udev rule)";
+        return nullptr;
+    }
+    return new HidapiHandle(device);
+}
+
+void HidapiBackend::close(HidHandle* handle)
+{
+    if (!handle)
+        return;
+    hid_close(raw(handle));
+    delete handle;
+}
+
+int HidapiBackend::setNonblocking(HidHandle* handle, bool nonblocking)
+{
+    return handle ? hid_set_nonblocking(raw(handle), nonblocking ? 1 : 0) : -1;
+}
+
+int HidapiBackend::sendFeatureReport(HidHandle* handle, const quint8* data, size_t length)
+{
+    return handle ? hid_send_feature_report(raw(handle), data, length) : -1;
+}
+
+int HidapiBackend::getFeatureReport(HidHandle* handle, quint8* data, size_t length)
+{
+    return handle ? hid_get_feature_report(raw(handle), data, length) : -1;
+}
+
+int HidapiBackend::write(HidHandle* handle, const quint8* data, size_t length)
+{
+    return handle ? hid_write(raw(handle), data, length) : -1;
+}
+
+int HidapiBackend::read(HidHandle* handle, quint8* data, size_t length)
+{
+    return handle ? hid_read(raw(handle), data, length) : -1;
+}
+
+int HidapiBackend::readTimeout(HidHandle* handle, quint8* data, size_t length, int milliseconds)
+{
+    return handle ? hid_read_timeout(raw(handle), data, length, milliseconds) : -1;
+}
