@@ -1,0 +1,57 @@
+#pragma once
+
+#include "Macro.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+// The user's macros, in memory and in the "macro" folder beside the program: one header file
+// with the list, one event file per macro id. The first instance made is the one that
+// instance() returns. GUI thread only.
+class ModuleMacroManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kMaxMacros = 50; // ids 0 .. 49
+    static constexpr int kFirstStartMacros = 8;
+
+    // The store lives in baseDir/macro/; an empty baseDir means the application's directory.
+    // Creates the folder if needed and loads the header.
+    explicit ModuleMacroManager(const QString& baseDir = QString(), QObject* parent = nullptr);
+    ~ModuleMacroManager() override;
+
+    static ModuleMacroManager* instance();
+
+    // In the order of the page's list and of the header file.
+    const QList<Macro*>& macros() const { return m_macros; }
+    QString folderPath() const { return m_folder; }
+    QString headerPath() const;
+    QString eventPath(quint8 id) const;
+
+    // A new macro with the lowest free id; null when the store is full. Not saved.
+    Macro* AddMacro();
+    // Takes the macro out of the list, frees it and saves the header. Its event file stays.
+    void RemoveMacro(Macro* macro);
+    Macro* FindMacro(quint8 id) const;
+    MacroEvent* AddEvent(Macro* macro, quint8 type, quint16 value, bool down, const QString& text);
+
+    // Saves are whole or nothing; false (and a warning) when the file could not be replaced.
+    bool SaveHeader();
+    // Replaces the list with the header's macros and their events; an empty result falls back
+    // to the first-start macros, which are saved.
+    void LoadHeader();
+    bool SaveEvents(Macro* macro);
+    // Replaces the macro's events with its file's; none when the file is missing or broken.
+    void LoadEvents(Macro* macro);
+
+    // The byte stream the keyboard plays: one record per action/delay pair. Empty for a null
+    // macro or one without events.
+    static QByteArray PackMacro(const Macro* macro);
+
+private:
+    QString m_folder; // ends with a separator
+    QList<Macro*> m_macros;
+};
