@@ -1,0 +1,514 @@
+#include "DefaultKeyMaps.h"
+#include "KeyEntry.h"
+#include "KeyNameTable.h"
+#include "KeyPositions.h"
+#include "ModuleGenKeymapping.h"
+
+#include <QTranslator>
+#include <QtTest>
+
+Q_DECLARE_METATYPE(KeyEntry)
+
+// Shows an entry as "00 E0 04 00" in a failed comparison.
+char* toString(const KeyEntry& entry)
+{
+    return qstrdup(entry.toByteArray().toHex(' ').toUpper().constData());
+}
+
+namespace {
+
+// "00 E0 04 00" -> entry.
+KeyEntry entryOf(const char* hex)
+{
+    return KeyEntry::fromByteArray(QByteArray::fromHex(hex));
+}
+
+// Marks every text of the key vocabulary's context, so a test can see which texts were
+// translated, and in which context.
+class MarkingTranslator : public QTranslator
+{
+public:
+    QString translate(const char* context, const char* sourceText, const char*, int) const override
+    {
+        if (qstrcmp(context, "ModuleGenKeymapping") != 0) return QString();
+        return QLatin1Char('<') + QString::fromUtf8(sourceText) + QLatin1Char('>');
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class TestKeyVocabulary : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void keyEntryBytes();
+
+    void keyEntryText_data();
+    void keyEntryText();
+    void keyEntryTextFollowsLaterTranslation();
+
+    void keyNameByCode_data();
+    void keyNameByCode();
+    void keyNameByScan_data();
+    void keyNameByScan();
+    void keyNameTableRows_data();
+    void keyNameTableRows();
+
+    void listRows_data();
+    void listRows();
+    void rowsPastTheEnd();
+
+    void codeOfPosition_data();
+    void codeOfPosition();
+    void positionOfCode_data();
+    void positionOfCode();
+    void codesOfFactoryMatrixAreUnique();
+    void mappingFollowsSetDefaultKeyMap();
+
+    void isModifiedEntry_data();
+    void isModifiedEntry();
+
+    void defaultKeyMapColumns_data();
+    void defaultKeyMapColumns();
+    void defaultKeyMapEntries_data();
+    void defaultKeyMapEntries();
+    void defaultFnMapEntries_data();
+    void defaultFnMapEntries();
+};
+
+void TestKeyVocabulary::cleanup()
+{
+    SetDefaultKeyMap(DefaultKeyMaps::factoryKeyMap());
+}
+
+void TestKeyVocabulary::keyEntryBytes()
+{
+    const QByteArray matrix = QByteArray::fromHex("0000290000290000");
+    const KeyEntry first = KeyEntry::fromByteArray(matrix);
+    const KeyEntry second = KeyEntry::fromByteArray(matrix, 4);
+    QCOMPARE(first, KeyEntry(0x00, 0x00, 0x29, 0x00));
+    QCOMPARE(second, KeyEntry(0x00, 0x29, 0x00, 0x00));
+    QVERIFY(first != second); // the same key, other bytes
+    QCOMPARE(first.toByteArray(), matrix.left(4));
+    QCOMPARE(second.toByteArray(), matrix.mid(4));
+
+    // Bytes beyond the data read as 0.
+    QCOMPARE(KeyEntry::fromByteArray(matrix, 6), KeyEntry(0x00, 0x00, 0x00, 0x00));
+    QCOMPARE(KeyEntry::fromByteArray(QByteArray::fromHex("0D08")), KeyEntry(0x0D, 0x08, 0, 0));
+    QVERIFY(KeyEntry::fromByteArray(QByteArray(), 0).isEmpty());
+}
+
+void TestKeyVocabulary::keyEntryText_data()
+{
+    QTest::addColumn<KeyEntry>("entry");
+    QTest::addColumn<bool>("prefix");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("no function") << entryOf("00000000") << true << QString();
+    QTest::newRow("factory plain key") << entryOf("00002C00") << true << QString();
+    QTest::newRow("single key") << entryOf("002C0000") << true << "组合: Space";
+    QTest::newRow("single key, no prefix") << entryOf("002C0000") << false << "Space";
+    QTest::newRow("two keys") << entryOf("00E00400") << true << "组合: L-Ctrl + A";
+    QTest::newRow("three keys, no prefix") << entryOf("00041D1B") << false << "A + Z + X";
+    QTest::newRow("unnamed middle key skipped")
+        << entryOf("00E0FA04") << true << "组合: L-Ctrl + A";
+    QTest::newRow("empty first key") << entryOf("0000E304") << true << QString();
+    QTest::newRow("kind not looked at") << entryOf("0D290000") << true << "组合: Esc";
+
+    QTest::newRow("function list first") << entryOf("00E02C00") << true << "功能: 切换输入法";
+    QTest::newRow("function, prefix ignored") << entryOf("00E02C00") << false << "功能: 切换输入法";
+    QTest::newRow("shared entry shows first row") << entryOf("03002402") << true << "功能: 后退";
+    QTest::newRow("fixed combination row") << entryOf("0000E32E") << true << "功能: 放大";
+    QTest::newRow("factory Insert is a function")
+        << entryOf("00004900") << true << "功能: Insert键";
+    QTest::newRow("second side-light colour group")
+        << entryOf("0D080401") << true << "功能: 侧光颜色+";
+    QTest::newRow("last function row") << entryOf("00004600") << true << "功能: Print Screen键";
+
+    QTest::newRow("mouse") << entryOf("0100F000") << true << "鼠标: 左键单击";
+    QTest::newRow("mouse, negative amount") << entryOf("0100F5FF") << false << "鼠标: 向下滚屏";
+    QTest::newRow("last mouse row") << entryOf("0100F705") << true << "鼠标: YDOWN";
+
+    QTest::newRow("macro") << entryOf("09010500") << true << "宏设置";
+    QTest::newRow("macro, no prefix") << entryOf("09000000") << false << "宏设置";
+}
+
+void TestKeyVocabulary::keyEntryText()
+{
+    QFETCH(KeyEntry, entry);
+    QFETCH(bool, prefix);
+    QFETCH(QString, text);
+    QCOMPARE(ModuleGenKeymapping::instance().KeyEntryText(entry, prefix), text);
+}
+
+void TestKeyVocabulary::keyEntryTextFollowsLaterTranslation()
+{
+    const ModuleGenKeymapping& keymapping = ModuleGenKeymapping::instance();
+    QCOMPARE(keymapping.KeyEntryText(entryOf("03002402"), true), "功能: 后退"); // built first
+
+    MarkingTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const QString function = keymapping.KeyEntryText(entryOf("03002402"), true);
+    const QString mouse = keymapping.KeyEntryText(entryOf("0100F100"), true);
+    const QString combination = keymapping.KeyEntryText(entryOf("00E00400"), true);
+    const QString macro = keymapping.KeyEntryText(entryOf("09000100"), true);
+    const QString rowName = keymapping.FunctionEntryAt(0)->name();
+    QCoreApplication::removeTranslator(&translator);
+
+    QCOMPARE(function, "<功能>: <后退>");
+    QCOMPARE(mouse, "<鼠标>: <右键单击>");
+    QCOMPARE(combination, "<组合>: L-Ctrl + A"); // key names are not translated
+    QCOMPARE(macro, "<宏设置>");
+    QCOMPARE(rowName, "<上一曲>");
+}
+
+void TestKeyVocabulary::keyNameByCode_data()
+{
+    QTest::addColumn<int>("usage");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("Esc") << 0x29 << "Esc";
+    QTest::newRow("grave") << 0x35 << "` ~";
+    QTest::newRow("quote") << 0x34 << "' \"";
+    QTest::newRow("backslash") << 0x31 << "\\ |";
+    QTest::newRow("left backslash") << 0x64 << "L-\\";
+    QTest::newRow("right backslash") << 0x87 << "R-\\";
+    QTest::newRow("yen") << 0x89 << "_¥";
+    QTest::newRow("Home, not Num-Home") << 0x4A << "Home";
+    QTest::newRow("End, not Num-End") << 0x4D << "End";
+    QTest::newRow("left arrow, not Num-left") << 0x50 << "←";
+    QTest::newRow("up arrow, not Num-up") << 0x52 << "↑";
+    QTest::newRow("Pgdn, not Num-Pgdn") << 0x4E << "Pgdn";
+    QTest::newRow("volume up") << 0xEA << "VOL+";
+    QTest::newRow("volume down") << 0xE9 << "VOL-";
+    QTest::newRow("usage 0") << 0x00 << QString();
+    QTest::newRow("Fn code") << 0xFA << QString();
+    QTest::newRow("not in table") << 0x68 << QString();
+    QTest::newRow("beyond a byte") << 0x129 << QString();
+}
+
+void TestKeyVocabulary::keyNameByCode()
+{
+    QFETCH(int, usage);
+    QFETCH(QString, name);
+    QCOMPARE(KeyNameByCode(quint16(usage)), name);
+}
+
+void TestKeyVocabulary::keyNameByScan_data()
+{
+    QTest::addColumn<int>("scan");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("usage");
+
+    QTest::newRow("Esc") << 0x01 << "Esc" << 0x29;
+    QTest::newRow("Num-7, not Num-Home") << 0x47 << "Num-7" << 0x5F;
+    QTest::newRow("Num-4, not Num-left") << 0x4B << "Num-4" << 0x5C;
+    QTest::newRow("Num-0, not Num-Pgdn") << 0x52 << "Num-0" << 0x62;
+    QTest::newRow("backslash, not R-backslash") << 0x2B << "\\ |" << 0x31;
+    QTest::newRow("L-backslash, not slash") << 0x35 << "L-\\" << 0x64;
+    QTest::newRow("R-Win, not Print-Screen") << 0xE05C << "R-Win" << 0xE7;
+    QTest::newRow("extended") << 0xE01C << "Num-Enter" << 0x58;
+    QTest::newRow("scan 0 is the yen row") << 0x00 << "_¥" << 0x89;
+    QTest::newRow("extended prefix alone") << 0xE0 << QString() << 0;
+    QTest::newRow("not in table") << 0x59 << QString() << 0;
+}
+
+void TestKeyVocabulary::keyNameByScan()
+{
+    QFETCH(int, scan);
+    QFETCH(QString, name);
+    QFETCH(int, usage);
+    QCOMPARE(KeyNameByScan(quint16(scan)), name);
+    QCOMPARE(int(CodeByScan(quint16(scan))), usage);
+}
+
+void TestKeyVocabulary::keyNameTableRows_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("usage");
+    QTest::addColumn<int>("scan");
+
+    QTest::newRow("first") << 0 << "` ~" << 0x35 << 0x29;
+    QTest::newRow("yen") << 13 << "_¥" << 0x89 << 0x00;
+    QTest::newRow("quote") << 40 << "' \"" << 0x34 << 0x28;
+    QTest::newRow("hash") << 41 << "_]" << 0x32 << 0x00;
+    QTest::newRow("Space") << 62 << "Space" << 0x2C << 0x39;
+    QTest::newRow("Esc") << 100 << "Esc" << 0x29 << 0x01;
+    QTest::newRow("Print-Screen") << 113 << "Print-Screen" << 0x46 << 0xE05C;
+    QTest::newRow("last") << 117 << "VOL-" << 0xE9 << 0x00;
+}
+
+void TestKeyVocabulary::keyNameTableRows()
+{
+    QFETCH(int, row);
+    QFETCH(QString, name);
+    QFETCH(int, usage);
+    QFETCH(int, scan);
+    QCOMPARE(int(std::size(KeyNameTable)), 118);
+    QCOMPARE(QString::fromUtf8(KeyNameTable[row].name), name);
+    QCOMPARE(int(KeyNameTable[row].usage), usage);
+    QCOMPARE(int(KeyNameTable[row].scan), scan);
+}
+
+void TestKeyVocabulary::listRows_data()
+{
+    QTest::addColumn<bool>("mouse");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<KeyEntry>("entry");
+
+    QTest::newRow("function 0") << false << 0 << "上一曲" << entryOf("0300B600");
+    QTest::newRow("function 13") << false << 13 << "后退" << entryOf("03002402");
+    QTest::newRow("function 15") << false << 15 << "停止" << entryOf("03002602");
+    QTest::newRow("function 24") << false << 24 << "返回" << entryOf("03002402");
+    QTest::newRow("function 27") << false << 27 << "R-Fn键" << entryOf("0A010100");
+    QTest::newRow("function 44") << false << 44 << "L-Fn键" << entryOf("0A010000");
+    QTest::newRow("function 54") << false << 54 << "APP CTRL切换" << entryOf("0A170000");
+    QTest::newRow("function 76") << false << 76 << "Use Pic" << entryOf("0D068000");
+    QTest::newRow("function 85") << false << 85 << "侧光颜色循环" << entryOf("0D080400");
+    QTest::newRow("function 95") << false << 95 << "蓝牙配对" << entryOf("0E010100");
+    QTest::newRow("function 97") << false << 97 << "Print Screen键" << entryOf("00004600");
+    QTest::newRow("mouse 0") << true << 0 << "左键单击" << entryOf("0100F000");
+    QTest::newRow("mouse 9") << true << 9 << "向上滚屏" << entryOf("0100F501");
+    QTest::newRow("mouse 14") << true << 14 << "YDOWN" << entryOf("0100F705");
+}
+
+void TestKeyVocabulary::listRows()
+{
+    QFETCH(bool, mouse);
+    QFETCH(int, row);
+    QFETCH(QString, name);
+    QFETCH(KeyEntry, entry);
+
+    const ModuleGenKeymapping keymapping;
+    const QList<KeyFunctionRow>& list =
+        mouse ? keymapping.MouseKeyList() : keymapping.FunctionKeyList();
+    QCOMPARE(list.size(), mouse ? 15 : 98);
+    const std::optional<KeyFunctionRow> found =
+        mouse ? keymapping.MouseEntryAt(quint8(row)) : keymapping.FunctionEntryAt(quint8(row));
+    QVERIFY(found.has_value());
+    QCOMPARE(found->name(), name);
+    QCOMPARE(found->entry, entry);
+    QCOMPARE(list.at(row).entry, entry);
+}
+
+void TestKeyVocabulary::rowsPastTheEnd()
+{
+    const ModuleGenKeymapping& keymapping = ModuleGenKeymapping::instance();
+    QVERIFY(!keymapping.FunctionEntryAt(98).has_value());
+    QVERIFY(!keymapping.FunctionEntryAt(255).has_value());
+    QVERIFY(!keymapping.MouseEntryAt(15).has_value());
+    QVERIFY(!keymapping.MouseEntryAt(255).has_value());
+}
+
+void TestKeyVocabulary::codeOfPosition_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<int>("code");
+
+    QTest::newRow("Esc") << 0 << 0x29;
+    QTest::newRow("grave") << 1 << 0x35;
+    QTest::newRow("A") << 9 << 0x04;
+    QTest::newRow("first hole") << 10 << 0x00;
+    QTest::newRow("Fn") << 65 << 0xFA;
+    QTest::newRow("right arrow") << 89 << 0x4F;
+    QTest::newRow("volume down") << 90 << 0xEA;
+    QTest::newRow("volume up") << 91 << 0xE9;
+    QTest::newRow("position 92") << 92 << 0xFB;
+    QTest::newRow("empty 95") << 95 << 0x00;
+    QTest::newRow("brightness down") << 96 << 0xFC;
+    QTest::newRow("brightness up") << 97 << 0xFD;
+    QTest::newRow("last") << 127 << 0x00;
+    QTest::newRow("128") << 128 << 0x00;
+    QTest::newRow("255") << 255 << 0x00;
+}
+
+void TestKeyVocabulary::codeOfPosition()
+{
+    QFETCH(int, position);
+    QFETCH(int, code);
+    QCOMPARE(int(CodeOfPosition(quint8(position))), code);
+}
+
+void TestKeyVocabulary::positionOfCode_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("position");
+
+    QTest::newRow("Esc") << 0x29 << 0;
+    QTest::newRow("L-Ctrl") << 0xE0 << 5;
+    QTest::newRow("right arrow") << 0x4F << 89;
+    QTest::newRow("volume down") << 0xEA << 90;
+    QTest::newRow("volume up") << 0xE9 << 91;
+    QTest::newRow("FA") << 0xFA << 65;
+    QTest::newRow("FB") << 0xFB << 92;
+    QTest::newRow("FC") << 0xFC << 96;
+    QTest::newRow("FD") << 0xFD << 97;
+    QTest::newRow("code 0 is the first hole") << 0x00 << 10;
+    QTest::newRow("unknown") << 0x68 << 0xFF;
+    QTest::newRow("FF") << 0xFF << 0xFF;
+}
+
+void TestKeyVocabulary::positionOfCode()
+{
+    QFETCH(int, code);
+    QFETCH(int, position);
+    QCOMPARE(int(PositionOfCode(quint8(code))), position);
+}
+
+void TestKeyVocabulary::codesOfFactoryMatrixAreUnique()
+{
+    for (int position = 0; position < 128; ++position) {
+        const quint8 code = CodeOfPosition(quint8(position));
+        if (code != 0) QCOMPARE(int(PositionOfCode(code)), position);
+    }
+}
+
+void TestKeyVocabulary::mappingFollowsSetDefaultKeyMap()
+{
+    // Swap Esc and A, as the console's "Save Matrix" could.
+    QByteArray map = DefaultKeyMaps::factoryKeyMap();
+    map.replace(0, 4, QByteArray::fromHex("00000400"));
+    map.replace(9 * 4, 4, QByteArray::fromHex("00002900"));
+    SetDefaultKeyMap(map);
+
+    QCOMPARE(DefaultKeyMap(), map);
+    QCOMPARE(int(CodeOfPosition(0)), 0x04);
+    QCOMPARE(int(CodeOfPosition(9)), 0x29);
+    QCOMPARE(int(PositionOfCode(0x04)), 0);
+    QCOMPARE(int(PositionOfCode(0x29)), 9);
+    QCOMPARE(DefaultEntryAt(0), entryOf("00000400"));
+    QVERIFY(IsModifiedEntry(0, entryOf("00002900")));
+    QVERIFY(!IsModifiedEntry(0, entryOf("00000400")));
+    QCOMPARE(int(PositionOfCode(0xFA)), 65); // the own codes don't move
+
+    // A short map is padded with zeros: the keys beyond it have no code.
+    SetDefaultKeyMap(QByteArray::fromHex("00002900"));
+    QCOMPARE(DefaultKeyMap().size(), 512);
+    QCOMPARE(int(PositionOfCode(0x29)), 0);
+    QCOMPARE(int(PositionOfCode(0x04)), 0xFF);
+    QCOMPARE(int(PositionOfCode(0x00)), 1);
+    QCOMPARE(int(CodeOfPosition(90)), 0x00);
+}
+
+void TestKeyVocabulary::isModifiedEntry_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<KeyEntry>("entry");
+    QTest::addColumn<bool>("modified");
+
+    QTest::newRow("Esc as factory") << 0 << entryOf("00002900") << false;
+    QTest::newRow("Esc as picked") << 0 << entryOf("00290000") << true;
+    QTest::newRow("disabled Esc") << 0 << entryOf("00000000") << true;
+    QTest::newRow("empty place") << 10 << entryOf("00000000") << false;
+    QTest::newRow("Fn as factory") << 65 << entryOf("0A010000") << false;
+    QTest::newRow("Fn, last byte") << 65 << entryOf("0A010001") << true;
+    QTest::newRow("brightness up") << 97 << entryOf("0D020100") << false;
+    QTest::newRow("brightness swapped") << 97 << entryOf("0D020200") << true;
+    QTest::newRow("past the matrix, zero") << 200 << entryOf("00000000") << false;
+    QTest::newRow("past the matrix, a key") << 200 << entryOf("00002900") << true;
+}
+
+void TestKeyVocabulary::isModifiedEntry()
+{
+    QFETCH(int, position);
+    QFETCH(KeyEntry, entry);
+    QFETCH(bool, modified);
+    QCOMPARE(IsModifiedEntry(quint8(position), entry), modified);
+}
+
+void TestKeyVocabulary::defaultKeyMapColumns_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QByteArray>("usages"); // byte 2 of each row; 0 for an empty place
+
+    QTest::newRow("0") << 0 << QByteArray::fromHex("29352B39E1E0");
+    QTest::newRow("1") << 1 << QByteArray::fromHex("3A1E140400E3");
+    QTest::newRow("2") << 2 << QByteArray::fromHex("3B1F1A161DE2");
+    QTest::newRow("3") << 3 << QByteArray::fromHex("3C2008071B00");
+    QTest::newRow("4") << 4 << QByteArray::fromHex("3D2115090600");
+    QTest::newRow("5") << 5 << QByteArray::fromHex("3E22170A1900");
+    QTest::newRow("6") << 6 << QByteArray::fromHex("3F231C0B052C");
+    QTest::newRow("7") << 7 << QByteArray::fromHex("4024180D1100");
+    QTest::newRow("8") << 8 << QByteArray::fromHex("41250C0E1000");
+    QTest::newRow("9") << 9 << QByteArray::fromHex("4226120F36E6");
+    QTest::newRow("10, Fn below") << 10 << QByteArray::fromHex("4327133337");
+    QTest::newRow("11") << 11 << QByteArray::fromHex("442D2F3438E4");
+    QTest::newRow("12") << 12 << QByteArray::fromHex("452E3000E550");
+    QTest::newRow("13") << 13 << QByteArray::fromHex("4C2A31285251");
+    QTest::newRow("14") << 14 << QByteArray::fromHex("004A4B4E4D4F");
+}
+
+void TestKeyVocabulary::defaultKeyMapColumns()
+{
+    QFETCH(int, column);
+    QFETCH(QByteArray, usages);
+    const QByteArray map = DefaultKeyMaps::factoryKeyMap();
+    QCOMPARE(map.size(), 512);
+    for (int row = 0; row < usages.size(); ++row) {
+        const quint8 usage = quint8(usages[row]);
+        const KeyEntry expected = usage ? KeyEntry(0, 0, usage, 0) : KeyEntry();
+        QCOMPARE(KeyEntry::fromByteArray(map, (column * 6 + row) * 4), expected);
+    }
+}
+
+void TestKeyVocabulary::defaultKeyMapEntries_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<KeyEntry>("entry");
+
+    QTest::newRow("Fn") << 65 << entryOf("0A010000");
+    QTest::newRow("volume down") << 90 << entryOf("0300EA00");
+    QTest::newRow("volume up") << 91 << entryOf("0300E900");
+    QTest::newRow("92") << 92 << entryOf("0A0E0000");
+    for (int position : {93, 94, 95})
+        QTest::addRow("%d empty", position) << position << KeyEntry();
+    QTest::newRow("brightness down") << 96 << entryOf("0D020200");
+    QTest::newRow("brightness up") << 97 << entryOf("0D020100");
+    for (int position = 98; position < 128; ++position)
+        QTest::addRow("%d empty", position) << position << KeyEntry();
+}
+
+void TestKeyVocabulary::defaultKeyMapEntries()
+{
+    QFETCH(int, position);
+    QFETCH(KeyEntry, entry);
+    QCOMPARE(KeyEntry::fromByteArray(DefaultKeyMaps::factoryKeyMap(), position * 4), entry);
+    QCOMPARE(DefaultEntryAt(quint8(position)), entry);
+}
+
+void TestKeyVocabulary::defaultFnMapEntries_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<KeyEntry>("entry");
+
+    QTest::newRow("0") << 0 << KeyEntry();
+    QTest::newRow("factory reset") << 1 << entryOf("0A020000");
+    QTest::newRow("side light") << 5 << entryOf("0D080000");
+    QTest::newRow("my computer") << 6 << entryOf("03009401");
+    QTest::newRow("Win lock") << 11 << entryOf("0A030000");
+    QTest::newRow("mail") << 12 << entryOf("03008A01");
+    QTest::newRow("WASD") << 14 << entryOf("0A0A0000");
+    // From 15 on the table stands one byte early against the entry grid, as keyboards ship.
+    QTest::newRow("15, one byte early") << 15 << entryOf("0000000D");
+    QTest::newRow("16, one byte early") << 16 << entryOf("0801000D");
+    for (int position = 93; position < 128; ++position)
+        QTest::addRow("%d empty", position) << position << KeyEntry();
+}
+
+void TestKeyVocabulary::defaultFnMapEntries()
+{
+    QFETCH(int, position);
+    QFETCH(KeyEntry, entry);
+    const QByteArray map = DefaultKeyMaps::DefaultFnMap();
+    QCOMPARE(map.size(), 512);
+    QCOMPARE(KeyEntry::fromByteArray(map, position * 4), entry);
+}
+
+QTEST_GUILESS_MAIN(TestKeyVocabulary)
+#include "tst_keyvocabulary.moc"
