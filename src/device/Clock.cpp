@@ -54,8 +54,7 @@ void QtClock::singleShot(int milliseconds, QObject* context, std::function<void(
 
 void QtClock::sleepMs(int milliseconds)
 {
-    if (milliseconds > 0)
-        QThread::msleep(static_cast<unsigned long>(milliseconds));
+    if (milliseconds > 0) QThread::msleep(static_cast<unsigned long>(milliseconds));
 }
 
 QtClock* QtClock::shared()

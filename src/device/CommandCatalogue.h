@@ -57,8 +57,8 @@ constexpr std::uint8_t CMD_SET_MAGNETISM = 0x1D;
 constexpr std::uint8_t CMD_GET_MAGNETISM = 0x9D;
 
 // Commands outside the named list.
-constexpr std::uint8_t CMD_KEY_TEST = 0x1B;       // "1B 01" on, "1B 00" off
-constexpr std::uint8_t CMD_CALIBRATION = 0x1E;    // "1E 01" on, "1E 00" off
+constexpr std::uint8_t CMD_KEY_TEST = 0x1B;        // "1B 01" on, "1B 00" off
+constexpr std::uint8_t CMD_CALIBRATION = 0x1E;     // "1E 01" on, "1E 00" off
 constexpr std::uint8_t CMD_WRITE_MAGNETISM = 0x65; // one value of one table
 constexpr std::uint8_t CMD_READ_MAGNETISM = 0xE5;  // one page of one table
 

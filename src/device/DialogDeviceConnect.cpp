@@ -29,9 +29,21 @@ struct TablePages
     int pages;
 };
 constexpr std::array<TablePages, 15> kTableReads{{
-    {0x00, 4}, {0x01, 4}, {0x02, 4}, {0x03, 4}, {0x04, 4},
-    {0x05, 2}, {0x06, 4}, {0x07, 2}, {0x08, 2}, {0x09, 2},
-    {0x0A, 8}, {0xFF, 4}, {0xFE, 4}, {0xFC, 2}, {0xFB, 2},
+    {0x00, 4},
+    {0x01, 4},
+    {0x02, 4},
+    {0x03, 4},
+    {0x04, 4},
+    {0x05, 2},
+    {0x06, 4},
+    {0x07, 2},
+    {0x08, 2},
+    {0x09, 2},
+    {0x0A, 8},
+    {0xFF, 4},
+    {0xFE, 4},
+    {0xFC, 2},
+    {0xFB, 2},
 }};
 
 quint8 byteAt(const QByteArray& data, int index)
@@ -62,8 +74,7 @@ DialogDeviceConnect::DialogDeviceConnect(HidBackend* hidBackend, Clock* clk,
                                          const QString& settingsPath, QObject* parent)
     : QObject(parent), hid(hidBackend), clock(clk)
 {
-    if (!g_instance)
-        g_instance = this;
+    if (!g_instance) g_instance = this;
 
     const QString path = settingsPath.isEmpty()
                              ? QCoreApplication::applicationDirPath() + "/config/device.ini"
@@ -86,8 +97,7 @@ DialogDeviceConnect::DialogDeviceConnect(HidBackend* hidBackend, Clock* clk,
 DialogDeviceConnect::~DialogDeviceConnect()
 {
     closeHandles();
-    if (g_instance == this)
-        g_instance = nullptr;
+    if (g_instance == this) g_instance = nullptr;
 }
 
 DialogDeviceConnect* DialogDeviceConnect::instance()
@@ -103,14 +113,18 @@ bool DialogDeviceConnect::isIdle() const
 
 int DialogDeviceConnect::magnetTableIndex(quint8 table)
 {
-    if (table <= 0x0A)
-        return table;
+    if (table <= 0x0A) return table;
     switch (table) {
-    case 0xFF: return 11;
-    case 0xFE: return 12;
-    case 0xFC: return 13;
-    case 0xFB: return 14;
-    default: return -1;
+    case 0xFF:
+        return 11;
+    case 0xFE:
+        return 12;
+    case 0xFC:
+        return 13;
+    case 0xFB:
+        return 14;
+    default:
+        return -1;
     }
 }
 
@@ -127,8 +141,7 @@ QString DialogDeviceConnect::logText(const QByteArray& bytes)
 void DialogDeviceConnect::DoConnectDevice(quint16 vid, quint16 pid, bool wireless,
                                           const QString& idText, const QString& path)
 {
-    if (idText == deviceIdText && path == devicePath)
-        return;
+    if (idText == deviceIdText && path == devicePath) return;
     isWireless = wireless;
     deviceIdText = idText;
     devicePath = path;
@@ -143,8 +156,7 @@ void DialogDeviceConnect::DoConnectDevice(quint16 vid, quint16 pid, bool wireles
 void DialogDeviceConnect::closeHandles()
 {
     for (HidHandle** h : {&inputHandle, &commandHandle, &musicHandle}) {
-        if (*h)
-            hid->close(*h);
+        if (*h) hid->close(*h);
         *h = nullptr;
     }
     ++connectionGeneration;
@@ -174,8 +186,7 @@ void DialogDeviceConnect::connectStep()
     if (isWireless) {
         // One handle through the receiver; reads block up to their own limit.
         commandHandle = hid->openPath(devicePath.toUtf8());
-        if (commandHandle)
-            hid->setNonblocking(commandHandle, false);
+        if (commandHandle) hid->setNonblocking(commandHandle, false);
         emit onConnect();
         resetVersion();
         enqueue(command(CommandCatalogue::CMD_GET_INFOR, 1), Kick::Deferred);
@@ -187,13 +198,10 @@ void DialogDeviceConnect::connectStep()
     const quint16 vid = lineVid.trimmed().toUShort(&okVid, 16);
     const quint16 pid = linePid.trimmed().toUShort(&okPid, 16);
     QList<HidDeviceInfo> entries;
-    if (okVid && okPid)
-        entries = hid->enumerate(vid, pid);
+    if (okVid && okPid) entries = hid->enumerate(vid, pid);
     for (const HidDeviceInfo& e : entries) {
-        if (inputHandle && commandHandle && musicHandle)
-            break;
-        if (e.usagePage != kVendorUsagePage)
-            continue;
+        if (inputHandle && commandHandle && musicHandle) break;
+        if (e.usagePage != kVendorUsagePage) continue;
         if (e.usage == kInputUsage && !inputHandle) {
             inputHandle = hid->openPath(e.path);
             if (inputHandle) {
@@ -203,8 +211,7 @@ void DialogDeviceConnect::connectStep()
         } else if (e.usage == kCommandUsage && !commandHandle) {
             commandHandle = hid->openPath(e.path);
             musicHandle = hid->openPath(e.path);
-            if (commandHandle)
-                setLamps(lampInput, true);
+            if (commandHandle) setLamps(lampInput, true);
         }
     }
 
@@ -219,8 +226,7 @@ void DialogDeviceConnect::connectStep()
         if (settings->status() != QSettings::NoError)
             qCWarning(lcDevice) << "could not write" << settings->fileName();
     }
-    if (!inputHandle || !commandHandle)
-        emit onDisconnect();
+    if (!inputHandle || !commandHandle) emit onDisconnect();
 }
 
 void DialogDeviceConnect::refreshStep()
@@ -269,8 +275,7 @@ void DialogDeviceConnect::DoSendHex(const QString& text, bool immediate)
 
 void DialogDeviceConnect::enqueue(const QByteArray& cmd, Kick kick)
 {
-    if (!commandHandle || cmd.isEmpty())
-        return;
+    if (!commandHandle || cmd.isEmpty()) return;
     sendQueue.append(cmd);
     if (kick == Kick::Deferred) {
         sendTimer->stop();
@@ -286,20 +291,17 @@ void DialogDeviceConnect::armStep(int milliseconds, void (DialogDeviceConnect::*
     const quint64 generation = connectionGeneration;
     clock->singleShot(milliseconds, this, [this, step, generation] {
         --armedSteps;
-        if (generation == connectionGeneration && commandHandle)
-            (this->*step)();
+        if (generation == connectionGeneration && commandHandle) (this->*step)();
     });
 }
 
 void DialogDeviceConnect::pumpStep()
 {
     if (sendQueue.isEmpty()) {
-        if (readingAll)
-            finishReadAll();
+        if (readingAll) finishReadAll();
         return;
     }
-    if (!commandHandle)
-        return;
+    if (!commandHandle) return;
     const QByteArray frame = Frame::close(sendQueue.takeFirst());
     lastCommand = frame;
     if (isWireless) {
@@ -313,8 +315,7 @@ void DialogDeviceConnect::pumpStep()
 
 void DialogDeviceConnect::readStep()
 {
-    if (!commandHandle)
-        return;
+    if (!commandHandle) return;
     QByteArray data;
     const bool got = isWireless ? Frame::takeReplyWireless(*hid, commandHandle, &data)
                                 : Frame::takeReplyWired(*hid, commandHandle, &data);
@@ -342,8 +343,7 @@ void DialogDeviceConnect::dispatch(const QByteArray& data)
 {
     // What a reply means follows from the command sent last, not from the reply's own bytes.
     const int sent = byteAt(lastCommand, 0);
-    if (sent < kReplyDispatchLow || sent > kReplyDispatchHigh)
-        return;
+    if (sent < kReplyDispatchLow || sent > kReplyDispatchHigh) return;
     switch (sent) {
     case CommandCatalogue::CMD_GET_REPORT:
         reportRate = byteAt(data, 2);
@@ -376,14 +376,12 @@ void DialogDeviceConnect::dispatch(const QByteArray& data)
         break;
     case CommandCatalogue::CMD_GET_KEYMATRIX: {
         const int slot = byteAt(lastCommand, 4);
-        if (slot < kKeySlots)
-            keyPages[slot].append(data);
+        if (slot < kKeySlots) keyPages[slot].append(data);
         break;
     }
     case CommandCatalogue::CMD_GET_USERPIC:
         userPicture.append(data);
-        if (byteAt(lastCommand, 3) == 5)
-            emit onGetPictrue(userPicture);
+        if (byteAt(lastCommand, 3) == 5) emit onGetPictrue(userPicture);
         break;
     case CommandCatalogue::CMD_GET_INFOR:
         storeIdentity(data);
@@ -391,8 +389,7 @@ void DialogDeviceConnect::dispatch(const QByteArray& data)
         break;
     case CommandCatalogue::CMD_GET_FN: {
         const int slot = byteAt(lastCommand, 2);
-        if (slot < kKeySlots)
-            fnPages[slot].append(data);
+        if (slot < kKeySlots) fnPages[slot].append(data);
         break;
     }
     case CommandCatalogue::CMD_GET_SLEEPTIME:
@@ -424,8 +421,8 @@ void DialogDeviceConnect::storeIdentity(const QByteArray& data)
     deviceInfo = data;
     deviceId = u32At(data, 1);
     firmwareVersion = u16At(data, 7);
-    labelVersion = QString::asprintf("Ver:0x%03X Id:%d[%03X]", firmwareVersion, int(deviceId),
-                                     deviceId);
+    labelVersion =
+        QString::asprintf("Ver:0x%03X Id:%d[%03X]", firmwareVersion, int(deviceId), deviceId);
     emit versionTextChanged(labelVersion);
     versionAtLeast300 = firmwareVersion >= 0x300;
     versionAtLeast400 = firmwareVersion >= 0x400;
@@ -486,8 +483,7 @@ void DialogDeviceConnect::DoReadAll()
         enqueue(c, Kick::Deferred);
     }
 
-    if (!versionAtLeast300)
-        return;
+    if (!versionAtLeast300) return;
     for (const TablePages& t : kTableReads)
         for (int page = 0; page < t.pages; ++page)
             DoSendHex(QString::asprintf("E5 %02X 01 %02X", t.table, page), false);
@@ -520,8 +516,7 @@ void DialogDeviceConnect::GetKeyEntry(quint8 out[4], quint8 keyIndex, quint8 lay
     const bool fn = (layer & 0xF0) == 0xF0;
     const int slot = fn ? (layer & 0x0F) : layer;
     const QByteArray empty;
-    const QByteArray& matrix =
-        slot < kKeySlots ? (fn ? fnMatrix[slot] : keyMatrix[slot]) : empty;
+    const QByteArray& matrix = slot < kKeySlots ? (fn ? fnMatrix[slot] : keyMatrix[slot]) : empty;
     for (int i = 0; i < 4; ++i)
         out[i] = byteAt(matrix, keyIndex * 4 + i);
 }
@@ -530,18 +525,15 @@ void DialogDeviceConnect::GetKeyEntry(quint8 out[4], quint8 keyIndex, quint8 lay
 
 void DialogDeviceConnect::BuildRowCommand(int row, bool write)
 {
-    if (readingAll || row < 0 || row >= consoleRows.count())
-        return;
+    if (readingAll || row < 0 || row >= consoleRows.count()) return;
     lineCommand = Frame::hexText(consoleRows.bytes(row));
     emit commandLineChanged(lineCommand);
-    if (write)
-        writeCommandLine();
+    if (write) writeCommandLine();
 }
 
 void DialogDeviceConnect::writeCommandLine()
 {
-    if (!commandHandle || readingAll)
-        return;
+    if (!commandHandle || readingAll) return;
     enqueue(QByteArray::fromHex(lineCommand.trimmed().toLatin1()), Kick::Immediate);
 }
 
@@ -563,8 +555,7 @@ void DialogDeviceConnect::pollInput()
         if (n > 0) {
             const QByteArray report(reinterpret_cast<const char*>(buffer), n);
             log(report, true);
-            if (buffer[0] == 0x05 || buffer[1] == 0x1B)
-                takeKeyTestSample(report);
+            if (buffer[0] == 0x05 || buffer[1] == 0x1B) takeKeyTestSample(report);
         }
     }
     inputPollTimer->start(kPollIntervalMs);

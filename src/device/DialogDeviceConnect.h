@@ -67,10 +67,10 @@ public:
     void GetKeyEntry(quint8 out[4], quint8 keyIndex, quint8 layer) const;
 
     // ---- Console actions
-    void connectStep();        // the Connect button
-    void readStep();           // the Read button: take a reply now and dispatch it
-    void writeCommandLine();   // the Write button: send the command line
-    void refreshStep();        // the Refresh button
+    void connectStep();                     // the Connect button
+    void readStep();                        // the Read button: take a reply now and dispatch it
+    void writeCommandLine();                // the Write button: send the command line
+    void refreshStep();                     // the Refresh button
     void selectPid(const QString& pidText); // a product id chosen in the list by hand
     // Builds the row's eight bytes into the command line and, with write, sends them.
     void BuildRowCommand(int row, bool write);

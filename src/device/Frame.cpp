@@ -61,8 +61,7 @@ bool takeReplyWired(HidBackend& hid, HidHandle* handle, QByteArray* reply)
 {
     quint8 buffer[kReplyBufferSize] = {}; // also report id 0
     const int result = hid.getFeatureReport(handle, buffer, kWiredLength);
-    if (result < 1)
-        return false;
+    if (result < 1) return false;
     *reply = QByteArray(reinterpret_cast<const char*>(buffer) + 1, result - 1);
     return true;
 }
@@ -77,8 +76,7 @@ bool takeReplyWireless(HidBackend& hid, HidHandle* handle, QByteArray* reply)
         std::fill(std::begin(buffer), std::end(buffer), 0);
         result = hid.readTimeout(handle, buffer, kWirelessLength, kWirelessReadTimeoutMs);
     }
-    if (result < 1)
-        return false;
+    if (result < 1) return false;
     *reply = QByteArray(reinterpret_cast<const char*>(buffer) + 2, std::max(0, result - 2));
     return true;
 }

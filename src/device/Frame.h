@@ -9,9 +9,9 @@ class HidHandle;
 // sender closes and wraps it at the moment it goes out, here and nowhere else.
 namespace Frame {
 
-constexpr int kPadding = 128;         // zeros appended before a frame goes out
-constexpr int kWiredLength = 65;      // report id 00 + 64 bytes, as a feature report
-constexpr int kWirelessLength = 66;   // 06 55 + 64 bytes, as an output report
+constexpr int kPadding = 128;       // zeros appended before a frame goes out
+constexpr int kWiredLength = 65;    // report id 00 + 64 bytes, as a feature report
+constexpr int kWirelessLength = 66; // 06 55 + 64 bytes, as an output report
 constexpr int kReplyBufferSize = 1024;
 constexpr int kWirelessReadTimeoutMs = 400;
 constexpr quint8 kWiredReportId = 0x00;

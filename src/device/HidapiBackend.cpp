@@ -69,8 +69,7 @@ HidHandle* HidapiBackend::openPath(const QByteArray& path)
 
 void HidapiBackend::close(HidHandle* handle)
 {
-    if (!handle)
-        return;
+    if (!handle) return;
     hid_close(raw(handle));
     delete handle;
 }

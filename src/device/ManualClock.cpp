@@ -17,8 +17,7 @@ public:
     }
     void stop() override
     {
-        if (active)
-            clock->cancelTimer(id);
+        if (active) clock->cancelTimer(id);
         active = false;
     }
     bool isActive() const override { return active; }
@@ -31,8 +30,7 @@ private:
         event.timerId = id;
         event.fn = [this, due] {
             active = false;
-            if (!singleShot)
-                arm(due + (interval > 0 ? interval : 1));
+            if (!singleShot) arm(due + (interval > 0 ? interval : 1));
             fn();
         };
         clock->schedule(due, std::move(event));
@@ -109,16 +107,14 @@ void ManualClock::advance(qint64 milliseconds)
     const qint64 target = now + (milliseconds < 0 ? 0 : milliseconds);
     for (;;) {
         auto it = events.begin();
-        if (it == events.end() || it->first.first > target)
-            break;
+        if (it == events.end() || it->first.first > target) break;
         // A blocking call inside an earlier event may have moved the time past this deadline.
         now = std::max(now, it->first.first);
         Event event = std::move(it->second);
         events.erase(it);
         timeMoved.notify_all();
         lock.unlock();
-        if (!event.hasContext || event.context)
-            event.fn();
+        if (!event.hasContext || event.context) event.fn();
         lock.lock();
     }
     now = std::max(now, target);
@@ -128,8 +124,7 @@ void ManualClock::advance(qint64 milliseconds)
 bool ManualClock::advanceUntil(const std::function<bool()>& done, qint64 limitMs, qint64 stepMs)
 {
     for (qint64 spent = 0; spent < limitMs; spent += stepMs) {
-        if (done())
-            return true;
+        if (done()) return true;
         advance(stepMs);
     }
     return done();

@@ -10,25 +10,23 @@ TracingHidBackend::TracingHidBackend(HidBackend* in, QIODevice* out, Clock* clk)
 {
 }
 
-QString TracingHidBackend::line(bool toDevice, const char* kind, const quint8* data,
-                                size_t length)
+QString TracingHidBackend::line(bool toDevice, const char* kind, const quint8* data, size_t length)
 {
     size_t used = length;
     while (used > 0 && data[used - 1] == 0)
         --used;
     QString text = QString::fromLatin1(toDevice ? "> " : "< ") + QString::fromLatin1(kind);
     if (used > 0)
-        text += QLatin1Char(' ') +
-                QString::fromLatin1(QByteArray(reinterpret_cast<const char*>(data), int(used))
-                                        .toHex(' ')
-                                        .toUpper());
+        text +=
+            QLatin1Char(' ') +
+            QString::fromLatin1(
+                QByteArray(reinterpret_cast<const char*>(data), int(used)).toHex(' ').toUpper());
     return text;
 }
 
 void TracingHidBackend::trace(bool toDevice, const char* kind, const quint8* data, int length)
 {
-    if (length <= 0)
-        return;
+    if (length <= 0) return;
     QMutexLocker lock(&mutex);
     stream << (clock->elapsedMs() - start) << ' ' << line(toDevice, kind, data, size_t(length))
            << '\n';
@@ -81,8 +79,7 @@ int TracingHidBackend::read(HidHandle* handle, quint8* data, size_t length)
     return n;
 }
 
-int TracingHidBackend::readTimeout(HidHandle* handle, quint8* data, size_t length,
-                                   int milliseconds)
+int TracingHidBackend::readTimeout(HidHandle* handle, quint8* data, size_t length, int milliseconds)
 {
     const int n = inner->readTimeout(handle, data, length, milliseconds);
     trace(false, "read", data, n);
