@@ -55,6 +55,15 @@ QJsonDocument readDocument(const QString& path)
     return doc;
 }
 
+// The array under `key`; empty, and logged, when the file doesn't hold one.
+QJsonArray readList(const QString& path, const char* key)
+{
+    const QJsonValue list = readDocument(path).object().value(QLatin1String(key));
+    if (!list.isArray() && !list.isUndefined())
+        qCWarning(lcMacros) << "unexpected content in" << path << "under" << key;
+    return list.toArray();
+}
+
 bool writeDocument(const QString& path, const QJsonObject& root)
 {
     QSaveFile file(path);
@@ -63,7 +72,9 @@ bool writeDocument(const QString& path, const QJsonObject& root)
         return false;
     }
     const QByteArray data = QJsonDocument(root).toJson(QJsonDocument::Indented);
-    if (file.write(data) != data.size()) {
+    // Flushed by hand: commit() alone misses a failed final flush and installs a cut file
+    // (QTBUG-75077).
+    if (file.write(data) != data.size() || !file.flush()) {
         qCWarning(lcMacros) << "write failed" << path << file.errorString();
         file.cancelWriting();
         return false;
@@ -211,8 +222,7 @@ void ModuleMacroManager::LoadHeader()
     qDeleteAll(m_macros);
     m_macros.clear();
 
-    const QJsonArray list =
-        readDocument(headerPath()).object().value(QLatin1String("macro")).toArray();
+    const QJsonArray list = readList(headerPath(), "macro");
     for (const QJsonValue& entry : list) {
         const QJsonObject object = entry.toObject();
         const QJsonValue idValue = object.value(QLatin1String("id"));
@@ -263,8 +273,7 @@ void ModuleMacroManager::LoadEvents(Macro* macro)
     qDeleteAll(macro->events);
     macro->events.clear();
 
-    const QJsonArray data =
-        readDocument(eventPath(macro->id)).object().value(QLatin1String("data")).toArray();
+    const QJsonArray data = readList(eventPath(macro->id), "data");
     for (const QJsonValue& entry : data) {
         if (!entry.isObject()) {
             qCWarning(lcMacros) << "skipping a non-object event of macro" << macro->id;
