@@ -1,0 +1,3 @@
+#include "SimulatorLog.h"
+
+Q_LOGGING_CATEGORY(lcSimulator, "orbe.simulator", QtInfoMsg)

@@ -1,0 +1,49 @@
+#include "VirtualDevice.h"
+
+VirtualDevice::VirtualDevice(std::mutex& backendLock, Clock* deviceClock)
+    : lock(backendLock), clock(deviceClock)
+{
+}
+
+VirtualDevice::~VirtualDevice() = default;
+
+void VirtualDevice::unplug()
+{
+    std::lock_guard guard(lock);
+    if (!plugged) return;
+    plugged = false;
+    ++generation;
+    onUnplugged();
+}
+
+void VirtualDevice::replug()
+{
+    std::lock_guard guard(lock);
+    plugged = true;
+}
+
+bool VirtualDevice::isPlugged() const
+{
+    std::lock_guard guard(lock);
+    return plugged;
+}
+
+int VirtualDevice::sendFeatureReport(int, const quint8*, size_t)
+{
+    return -1;
+}
+
+int VirtualDevice::getFeatureReport(int, quint8*, size_t)
+{
+    return -1;
+}
+
+int VirtualDevice::write(int, const quint8*, size_t)
+{
+    return -1;
+}
+
+int VirtualDevice::read(int, quint8*, size_t)
+{
+    return 0;
+}

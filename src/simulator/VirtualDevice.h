@@ -1,0 +1,48 @@
+#pragma once
+
+#include "HidBackend.h"
+
+#include <QList>
+#include <cstddef>
+#include <mutex>
+
+class Clock;
+
+// One device that the virtual backend shows. Its interfaces are the entries enumerate() lists;
+// a handle opens one of them by index. The I/O part is called by the backend with the
+// backend's lock held; the public fault calls take that lock themselves, so tests may call them
+// while another thread uses the backend.
+class VirtualDevice
+{
+public:
+    virtual ~VirtualDevice();
+    VirtualDevice(const VirtualDevice&) = delete;
+    VirtualDevice& operator=(const VirtualDevice&) = delete;
+
+    // Gone from enumerate, opens fail, and handles opened before stay dead even after replug().
+    void unplug();
+    void replug();
+    bool isPlugged() const;
+
+protected:
+    VirtualDevice(std::mutex& backendLock, Clock* clock);
+
+    // ---- Called by the backend, its lock held.
+    virtual QList<HidDeviceInfo> interfaces() const = 0;
+    virtual int sendFeatureReport(int interfaceIndex, const quint8* data, size_t length);
+    virtual int getFeatureReport(int interfaceIndex, quint8* data, size_t length);
+    virtual int write(int interfaceIndex, const quint8* data, size_t length);
+    // What a read finds now: the byte count, or 0 when nothing is there. The backend waits out
+    // a read's timeout itself, without its lock.
+    virtual int read(int interfaceIndex, quint8* data, size_t length);
+    // Transfers that were in the air are lost with the cable.
+    virtual void onUnplugged() {}
+
+    std::mutex& lock;
+    Clock* clock;
+
+private:
+    friend class VirtualHidBackend;
+    bool plugged = true;
+    quint64 generation = 0; // bumped by unplug(); a handle is live while its generation matches
+};

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "HidBackend.h"
+#include "VirtualKeyboard.h"
+
+#include <memory>
+#include <mutex>
+#include <vector>
+
+class Clock;
+class VirtualHandle;
+
+// What --simulate puts in place of the hardware.
+struct SimulatorOptions
+{
+    quint32 deviceId = 0x0AF7;
+    quint16 firmwareVersion = 0x0300;
+};
+
+// A HID backend whose devices are virtual. Every call takes one lock, so the discovery thread
+// and the GUI thread may share it; a read that has to wait for its timeout waits on the clock
+// without the lock.
+class VirtualHidBackend : public HidBackend
+{
+public:
+    explicit VirtualHidBackend(Clock* clock);
+    ~VirtualHidBackend() override;
+
+    VirtualKeyboard* addWiredKeyboard(quint32 id = 0x0AF7, quint16 version = 0x0300,
+                                      quint16 vid = 0x3151, quint16 pid = 0x502F);
+    VirtualKeyboard* addWirelessKeyboard(quint32 id = 0x0AF7, quint16 version = 0x0300,
+                                         quint16 vid = 0x3151, quint16 pid = 0x5030);
+
+    // The set --simulate shows: one wired, one wireless keyboard.
+    static std::unique_ptr<VirtualHidBackend> createDefaultSet(Clock* clock,
+                                                               const SimulatorOptions& options);
+
+    // The first keyboard of its kind that was added, or null.
+    VirtualKeyboard* wiredKeyboard() const;
+    VirtualKeyboard* wirelessKeyboard() const;
+    // Handles opened and not closed yet, dead ones included.
+    int openHandleCount() const;
+
+    QList<HidDeviceInfo> enumerate(quint16 vendorId, quint16 productId) override;
+    HidHandle* openPath(const QByteArray& path) override;
+    void close(HidHandle* handle) override;
+    int setNonblocking(HidHandle* handle, bool nonblocking) override;
+    int sendFeatureReport(HidHandle* handle, const quint8* data, size_t length) override;
+    int getFeatureReport(HidHandle* handle, quint8* data, size_t length) override;
+    int write(HidHandle* handle, const quint8* data, size_t length) override;
+    int read(HidHandle* handle, quint8* data, size_t length) override;
+    int readTimeout(HidHandle* handle, quint8* data, size_t length, int milliseconds) override;
+
+private:
+    VirtualKeyboard* addKeyboard(bool wireless, const VirtualKeyboard::Identity& identity);
+    // The handle if it is open and its device is still the one it opened; lock held.
+    VirtualHandle* liveHandle(HidHandle* handle) const;
+
+    Clock* clock;
+    mutable std::mutex lock;
+    std::vector<std::unique_ptr<VirtualDevice>> devices;
+    std::vector<VirtualKeyboard*> keyboards;
+    std::vector<std::unique_ptr<VirtualHandle>> handles;
+};
