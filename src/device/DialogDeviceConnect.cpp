@@ -3,9 +3,11 @@
 #include "Clock.h"
 #include "CommandCatalogue.h"
 #include "DefaultKeyMaps.h"
+#include "DeviceBytes.h"
 #include "DeviceLog.h"
 #include "Frame.h"
 #include "HidBackend.h"
+#include "MagnetTables.h"
 
 #include <QCoreApplication>
 #include <QSettings>
@@ -22,50 +24,12 @@ constexpr int kReplyDispatchHigh = 229; // 0xE5
 constexpr int kReadAllFrameLength = 8;
 constexpr int kProfileFrameLength = 12;
 
-// Tables in the order the read sequence fetches them, with their page counts.
-struct TablePages
-{
-    quint8 table;
-    int pages;
-};
-constexpr std::array<TablePages, 15> kTableReads{{
-    {0x00, 4},
-    {0x01, 4},
-    {0x02, 4},
-    {0x03, 4},
-    {0x04, 4},
-    {0x05, 2},
-    {0x06, 4},
-    {0x07, 2},
-    {0x08, 2},
-    {0x09, 2},
-    {0x0A, 8},
-    {0xFF, 4},
-    {0xFE, 4},
-    {0xFC, 2},
-    {0xFB, 2},
-}};
+
+using DeviceBytes::command;
 
 quint8 byteAt(const QByteArray& data, int index)
 {
-    return index >= 0 && index < data.size() ? static_cast<quint8>(data.at(index)) : 0;
-}
-
-quint16 u16At(const QByteArray& data, int index)
-{
-    return static_cast<quint16>(byteAt(data, index) | (byteAt(data, index + 1) << 8));
-}
-
-quint32 u32At(const QByteArray& data, int index)
-{
-    return u16At(data, index) | (quint32(u16At(data, index + 2)) << 16);
-}
-
-QByteArray command(quint8 byte0, int length)
-{
-    QByteArray c(length, '\0');
-    c[0] = static_cast<char>(byte0);
-    return c;
+    return DeviceBytes::at(data, index);
 }
 
 } // namespace
@@ -394,7 +358,7 @@ void DialogDeviceConnect::dispatch(const QByteArray& data)
     }
     case CommandCatalogue::CMD_GET_SLEEPTIME:
         for (int i = 0; i < 4; ++i)
-            sleepTimes[i] = u16At(data, 8 + 2 * i);
+            sleepTimes[i] = DeviceBytes::u16(data, 8 + 2 * i);
         break;
     case CommandCatalogue::CMD_READ_MAGNETISM: {
         const quint8 table = byteAt(lastCommand, 1);
@@ -419,8 +383,8 @@ void DialogDeviceConnect::dispatch(const QByteArray& data)
 void DialogDeviceConnect::storeIdentity(const QByteArray& data)
 {
     deviceInfo = data;
-    deviceId = u32At(data, 1);
-    firmwareVersion = u16At(data, 7);
+    deviceId = DeviceBytes::u32(data, 1);
+    firmwareVersion = DeviceBytes::u16(data, 7);
     labelVersion =
         QString::asprintf("Ver:0x%03X Id:%d[%03X]", firmwareVersion, int(deviceId), deviceId);
     emit versionTextChanged(labelVersion);
@@ -484,9 +448,9 @@ void DialogDeviceConnect::DoReadAll()
     }
 
     if (!versionAtLeast300) return;
-    for (const TablePages& t : kTableReads)
+    for (const MagnetTables::Table& t : MagnetTables::kTables)
         for (int page = 0; page < t.pages; ++page)
-            DoSendHex(QString::asprintf("E5 %02X 01 %02X", t.table, page), false);
+            DoSendHex(QString::asprintf("E5 %02X 01 %02X", t.number, page), false);
 }
 
 void DialogDeviceConnect::finishReadAll()
@@ -563,6 +527,6 @@ void DialogDeviceConnect::pollInput()
 
 void DialogDeviceConnect::takeKeyTestSample(const QByteArray& report)
 {
-    keyTravel = static_cast<float>(u16At(report, 2) / 720.0);
+    keyTravel = static_cast<float>(DeviceBytes::u16(report, 2) / 720.0);
     emit onKeyTest();
 }

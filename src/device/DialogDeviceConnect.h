@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <array>
+#include <initializer_list>
 #include <memory>
 
 class Clock;
@@ -65,6 +66,47 @@ public:
     // Four bytes of the key matrix at a position; a layer 0xF0 + n reads Fn slot n instead.
     // Bytes the cache doesn't hold read as 0.
     void GetKeyEntry(quint8 out[4], quint8 keyIndex, quint8 layer) const;
+
+    // ---- Settings and lighting
+    void DoSetReportRate(quint8 value);
+    void DoSetDebounce(quint8 value);
+    void DoSetLedOnOff(bool off);
+    void DoSetLedEffect(int effect, quint8 option);
+    void DoSetLedSpeed(quint8 speed);
+    void DoSetLedBrightness(int brightness);
+    // rgb as 0xRRGGBB (QColor::rgb() fits); the colour goes out only with an option above 6.
+    void DoSetLedColor(quint32 rgb, int option);
+    void DoSetSideLed(const QByteArray& data);
+    void DoSetKbOption(int index, quint8 value);
+    quint8 GetKbOption(int index) const;
+    void DoSetSleepTime(int minutes, int slot);
+
+    // ---- Key matrix and Fn layer
+    void DoSetKey(quint8 keyCode, const quint8 entry[4], quint8 layer, quint8 last);
+    void DoSetFn(quint8 keyCode, const quint8 entry[4]);
+    void DoSetKeyCode(quint8 keyCode, bool enabled, quint8 layer);
+    void DoSetFnCode(quint8 keyCode, bool enabled);
+    void DoResetKey(quint8 keyCode);
+    // Names of what the key does on layers 0 to 3, or its SnapKey partner's name alone.
+    void GetKeyDisplay(QStringList& out, quint8 keyCode) const;
+
+    // ---- Magnetism, key test and calibration
+    void DoSetMagnetism(quint8 table, quint8 keyCode, quint32 value, quint8 commit);
+    quint32 GetMagnetism(quint8 table, quint8 position) const;
+    void SetMagnetism(quint8 table, quint8 position, quint32 value);
+    quint32 GetKeyMode(quint8 keyCode) const;
+    quint32 GetKeyOption(quint8 position) const;
+    void DoSetKeyFlag(quint8 keyCode, bool on);
+    void DoStartKeyTest();
+    void DoStopKeyTest();
+    void DoStartCalibration();
+    void DoStopCalibration();
+
+    // ---- Macros and user pictures
+    void DoSetMacro(quint8 keyCode, quint16 repeat, quint8 mode, quint8 macroId,
+                    const QByteArray& stream);
+    void DoWriteUserPic(quint8 slot, const QByteArray& colourMap);
+    void DoReadUserPic(quint8 slot);
 
     // ---- Console actions
     void connectStep();                     // the Connect button
@@ -160,6 +202,8 @@ private:
     void finishReadAll();
     void dispatch(const QByteArray& data);
     void storeIdentity(const QByteArray& data);
+    void writeRowCells(quint8 command, std::initializer_list<std::pair<int, int>> cells);
+    void calibrationTick();
     void pollInput();
     void takeKeyTestSample(const QByteArray& report);
     void closeHandles();

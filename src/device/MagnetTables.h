@@ -1,0 +1,64 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+// The fifteen per-key magnetism tables: 128 values each at a fixed width, fetched in pages of
+// 64 bytes, in the order the read sequence asks for them.
+namespace MagnetTables {
+
+struct Table
+{
+    std::uint8_t number;
+    int width; // bytes per value
+    int pages; // 64-byte pages: 128 * width / 64
+};
+
+constexpr int kValues = 128;
+
+constexpr std::array<Table, 15> kTables{{
+    {0x00, 2, 4}, // actuation travel, 0.005 mm
+    {0x01, 2, 4}, // release travel
+    {0x02, 2, 4}, // rapid trigger, press
+    {0x03, 2, 4}, // rapid trigger, release
+    {0x04, 2, 4}, // dynamic keystroke travel
+    {0x05, 1, 2}, // mod-tap hold time
+    {0x06, 2, 4}, // top dead zone
+    {0x07, 1, 2}, // key mode, bit 7 the key flag
+    {0x08, 1, 2}, // dynamic keystroke action word
+    {0x09, 1, 2}, // SnapKey partner position
+    {0x0A, 4, 8},
+    {0xFF, 2, 4},
+    {0xFE, 2, 4}, // live sensor reading
+    {0xFC, 1, 2}, // switch type
+    {0xFB, 1, 2}, // bottom dead zone
+}};
+
+static_assert([] {
+    for (const Table& t : kTables)
+        if (t.pages * 64 != kValues * t.width)
+            return false;
+    return true;
+}());
+
+// Index into kTables (and the connection's cache) of a table number; -1 if unknown.
+constexpr int indexOf(std::uint8_t number)
+{
+    for (int i = 0; i < int(kTables.size()); ++i)
+        if (kTables[i].number == number)
+            return i;
+    return -1;
+}
+
+// Raw travel: millimetres times 200, cut toward zero, in single precision as the pages do.
+constexpr std::uint32_t rawFromMillimetres(float mm)
+{
+    const float raw = mm * 200.0f;
+    return raw <= 0.0f ? 0u : static_cast<std::uint32_t>(raw);
+}
+constexpr double millimetresFromRaw(std::uint32_t raw)
+{
+    return raw / 200.0;
+}
+
+} // namespace MagnetTables
