@@ -1,0 +1,705 @@
+// The virtual devices: the firmware model's reads against its writes, its page layouts and
+// table widths, the wired and wireless transports, the faults, and one connection of the
+// protocol core to a virtual keyboard.
+
+#include "DefaultKeyMaps.h"
+#include "DialogDeviceConnect.h"
+#include "Frame.h"
+#include "ManualClock.h"
+#include "NativeKeyboardModel.h"
+#include "VirtualHidBackend.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+QByteArray hex(const char* text)
+{
+    return QByteArray::fromHex(text);
+}
+
+// A frame with the given head and a payload from offset 8.
+QByteArray frame(const char* head, const QByteArray& payload = {})
+{
+    QByteArray f = hex(head).leftJustified(8, '\0');
+    return (f + payload).leftJustified(64, '\0');
+}
+
+QByteArray pattern(int size, int seed)
+{
+    QByteArray bytes(size, '\0');
+    for (int i = 0; i < size; ++i)
+        bytes[i] = char((seed + i * 7) & 0xFF);
+    return bytes;
+}
+
+// The pages a read command returns, concatenated.
+QByteArray readPages(NativeKeyboardModel& model, QByteArray command, int pageOffset, int pages)
+{
+    QByteArray all;
+    for (int page = 0; page < pages; ++page) {
+        command[pageOffset] = char(page);
+        const QByteArray reply = model.handle(command.leftJustified(64, '\0'));
+        if (reply.size() != 64) return {};
+        all += reply;
+    }
+    return all;
+}
+
+QByteArray wired(const QByteArray& logical)
+{
+    return Frame::wrapWired(Frame::close(logical));
+}
+
+QByteArray wireless(const QByteArray& logical)
+{
+    return Frame::wrapWireless(Frame::close(logical));
+}
+
+QByteArray featureGet(VirtualHidBackend& hid, HidHandle* h, int* result)
+{
+    quint8 buffer[Frame::kReplyBufferSize] = {};
+    *result = hid.getFeatureReport(h, buffer, Frame::kWiredLength);
+    return QByteArray(reinterpret_cast<const char*>(buffer), qMax(0, *result));
+}
+
+int featureSend(VirtualHidBackend& hid, HidHandle* h, const QByteArray& report)
+{
+    return hid.sendFeatureReport(h, reinterpret_cast<const quint8*>(report.constData()),
+                                 report.size());
+}
+
+int writeReport(VirtualHidBackend& hid, HidHandle* h, const QByteArray& report)
+{
+    return hid.write(h, reinterpret_cast<const quint8*>(report.constData()), report.size());
+}
+
+QByteArray readReport(VirtualHidBackend& hid, HidHandle* h, int timeoutMs, int* result)
+{
+    quint8 buffer[Frame::kReplyBufferSize] = {};
+    *result = hid.readTimeout(h, buffer, Frame::kWirelessLength, timeoutMs);
+    return QByteArray(reinterpret_cast<const char*>(buffer), qMax(0, *result));
+}
+
+} // namespace
+
+class TestSimulator : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    // ---- firmware model
+    void factoryState();
+    void readsReflectWrites_data();
+    void readsReflectWrites();
+    void writesAndUnknownCommandsEcho();
+    void tableWidthsCutValues_data();
+    void tableWidthsCutValues();
+    void allKeysAndOutOfRangePositions();
+    void pageLayouts();
+    void pictureSlots();
+    void macroBlobs();
+    void factoryResetCommand();
+    void calibrationScanGrows();
+
+    // ---- transports and faults
+    void enumeration();
+    void wiredFeatureRoundTrip();
+    void wirelessTransport();
+    void unplugAndReplug();
+    void droppedReplies_data();
+    void droppedReplies();
+    void shortReplies_data();
+    void shortReplies();
+    void staleReport();
+    void keyTestStream();
+
+    // ---- the protocol core against the virtual keyboard
+    void connectionReadsTheKeyboard_data();
+    void connectionReadsTheKeyboard();
+};
+
+void TestSimulator::factoryState()
+{
+    NativeKeyboardModel model(0x0EC3, 0x0512);
+    QCOMPARE(model.handle(frame("8F")).left(9), hex("8F C3 0E 00 00 00 00 12 05"));
+    const QByteArray keys = DefaultKeyMaps::factoryKeyMap();
+    for (int profile = 0; profile < 4; ++profile) {
+        QCOMPARE(model.keyMap(profile, 0), keys);
+        for (int layer = 1; layer < 4; ++layer)
+            QCOMPARE(model.keyMap(profile, layer), QByteArray(512, '\0'));
+    }
+    QCOMPARE(model.fnMap().size(), 640);
+    QCOMPARE(model.fnMap().left(512), DefaultKeyMaps::factoryFnMap());
+    const QList<QPair<quint8, quint32>> defaults{{0x00, 400}, {0x01, 560}, {0x06, 60},
+                                                 {0xFB, 60},  {0xFC, 2},   {0x07, 0}};
+    for (const auto& [table, value] : defaults)
+        for (int position : {0, 64, 127})
+            QCOMPARE(model.magnetValue(table, position), value);
+}
+
+void TestSimulator::readsReflectWrites_data()
+{
+    QTest::addColumn<QByteArray>("write");
+    QTest::addColumn<QByteArray>("read");
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<QByteArray>("expected");
+
+    // Every write below changes what the read returns, but for the refused profile.
+    QTest::newRow("report rate") << frame("03 00 05") << frame("83") << 0 << hex("83 00 05");
+    QTest::newRow("profile") << frame("04 02") << frame("84") << 0 << hex("84 02");
+    QTest::newRow("profile 4 refused") << frame("04 04") << frame("84") << 0 << hex("84 00");
+    QTest::newRow("debounce") << frame("06 07") << frame("86") << 0 << hex("86 07");
+    QTest::newRow("led on/off") << frame("05 00 00") << frame("85") << 0 << hex("85 00 00");
+    QTest::newRow("led params") << frame("07 05 01 02 37 10 20 30") << frame("87") << 0
+                                << hex("87 05 01 02 37 10 20 30");
+    QTest::newRow("side led params")
+        << frame("08 03 02 04 08 AA BB CC") << frame("88") << 0 << hex("88 03 02 04 08 AA BB CC");
+    // Offset 7 is the checksum on the wire: the block keeps what it had there.
+    QTest::newRow("options") << frame("09 01 02 03 04 05 06 77", hex("08 09")) << frame("89") << 0
+                             << hex("89 01 02 03 04 05 06 00 08 09");
+    QTest::newRow("sleep times") << frame("11", hex("2C 01 58 02 08 07 10 0E")) << frame("91") << 0
+                                 << hex("91 00 00 00 00 00 00 00 2C 01 58 02 08 07 10 0E");
+    QTest::newRow("key entry, profile 1 layer 2")
+        << frame("0A 01 05 00 00 01 02", hex("01 02 29 03")) << frame("8A 01 FF 00 02") << 20
+        << hex("01 02 29 03");
+    QTest::newRow("key entry, last position")
+        << frame("0A 03 7F 00 00 01 03", hex("09 02 03 00")) << frame("8A 03 FF 07 03") << 60
+        << hex("09 02 03 00");
+    QTest::newRow("fn entry in the tenth page")
+        << frame("10 00 00 9F", hex("0D 08 01 00")) << frame("90 00 00 FF 09") << 60
+        << hex("0D 08 01 00");
+    QTest::newRow("magnetism u16")
+        << frame("65 00 00 03 01", hex("2C 01 00 00")) << frame("E5 00 01 00") << 6 << hex("2C 01");
+    QTest::newRow("magnetism u32") << frame("65 0A 00 11", hex("78 56 34 12"))
+                                   << frame("E5 0A 01 01") << 4 << hex("78 56 34 12");
+}
+
+void TestSimulator::readsReflectWrites()
+{
+    QFETCH(QByteArray, write);
+    QFETCH(QByteArray, read);
+    QFETCH(int, offset);
+    QFETCH(QByteArray, expected);
+
+    NativeKeyboardModel model;
+    const QByteArray before = model.handle(read);
+    model.handle(write);
+    const QByteArray after = model.handle(read);
+    QCOMPARE(after.size(), 64);
+    QCOMPARE(after.mid(offset, expected.size()), expected);
+    QCOMPARE(before != after, !QByteArray(QTest::currentDataTag()).contains("refused"));
+    QCOMPARE(model.receivedFrames().size(), 3);
+    QCOMPARE(model.receivedFrames().at(1), write);
+}
+
+void TestSimulator::writesAndUnknownCommandsEcho()
+{
+    NativeKeyboardModel model;
+    for (const QByteArray& f : {frame("06 03"), frame("65 00 00 01 01", hex("10")),
+                                frame("0D", pattern(22, 1)), frame("1D 01 02"), frame("D0 07")}) {
+        const QByteArray longer = f + pattern(64, 9); // only the first 64 come back
+        QCOMPARE(model.handle(longer), f);
+    }
+    QCOMPARE(model.musicLevels(), pattern(22, 1));
+    QCOMPARE(model.debounce(), quint8(3));
+}
+
+void TestSimulator::tableWidthsCutValues_data()
+{
+    QTest::addColumn<quint8>("table");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<quint32>("value");
+    QTest::addColumn<quint32>("stored");
+
+    QTest::newRow("00 u16") << quint8(0x00) << 2 << 0x12345u << 0x2345u;
+    QTest::newRow("05 u8") << quint8(0x05) << 1 << 0x12345678u << 0x78u;
+    QTest::newRow("07 u8") << quint8(0x07) << 1 << 0x87u << 0x87u;
+    QTest::newRow("08 u8") << quint8(0x08) << 1 << 0x0401u << 0x01u;
+    QTest::newRow("0A u32") << quint8(0x0A) << 4 << 0x12345678u << 0x12345678u;
+    QTest::newRow("FF u16") << quint8(0xFF) << 2 << 0xABCDEFu << 0xCDEFu;
+    QTest::newRow("FE u16") << quint8(0xFE) << 2 << 700u << 700u;
+    QTest::newRow("FC u8") << quint8(0xFC) << 1 << 0x103u << 0x03u;
+    QTest::newRow("FB u8") << quint8(0xFB) << 1 << 0x1FFu << 0xFFu;
+}
+
+void TestSimulator::tableWidthsCutValues()
+{
+    QFETCH(quint8, table);
+    QFETCH(int, width);
+    QFETCH(quint32, value);
+    QFETCH(quint32, stored);
+
+    NativeKeyboardModel model;
+    const quint32 neighbour = model.magnetValue(table, 34);
+    QByteArray write = frame("65");
+    write[1] = char(table);
+    write[3] = char(33);
+    for (int i = 0; i < 4; ++i)
+        write[8 + i] = char((value >> (8 * i)) & 0xFF);
+    model.handle(write);
+
+    QCOMPARE(model.magnetValue(table, 33), stored);
+    QCOMPARE(model.magnetValue(table, 34), neighbour);
+    QCOMPARE(model.magnetTable(table).size(), 128 * width);
+
+    // On the wire the value sits at position * width of the packed table, little-endian.
+    const int offset = 33 * width;
+    QByteArray read = frame("E5");
+    read[1] = char(table);
+    read[2] = 1;
+    read[3] = char(offset / 64);
+    const QByteArray page = model.handle(read);
+    quint32 onWire = 0;
+    for (int i = width - 1; i >= 0; --i)
+        onWire = (onWire << 8) | quint8(page.at(offset % 64 + i));
+    QCOMPARE(onWire, stored);
+}
+
+void TestSimulator::allKeysAndOutOfRangePositions()
+{
+    NativeKeyboardModel model;
+    model.handle(frame("65 01 00 FF 01", hex("2C 01 00 00")));
+    for (int p = 0; p < 128; ++p)
+        QCOMPARE(model.magnetValue(0x01, p), 300u);
+
+    const QByteArray keysBefore = model.keyMap(0, 0);
+    const QByteArray table00 = model.magnetTable(0x00);
+    model.handle(frame("65 00 00 80 01", hex("01 00 00 00")));       // no position 128
+    model.handle(frame("0A 00 80 00 00 01 00", hex("00 00 04 00"))); // nor here
+    model.handle(frame("0A 04 00 00 00 01 00", hex("00 00 04 00"))); // no profile 4
+    model.handle(frame("65 0B 00 01 01", hex("01 00 00 00")));       // no table 0B
+    QCOMPARE(model.magnetTable(0x00), table00);
+    QCOMPARE(model.keyMap(0, 0), keysBefore);
+    QCOMPARE(model.magnetValue(0x0B, 1), 0u);
+    QCOMPARE(model.handle(frame("E5 0B 01 00")), frame("E5 0B 01 00")); // unknown: echoed
+}
+
+void TestSimulator::pageLayouts()
+{
+    NativeKeyboardModel model;
+    // Every entry distinct, so that a misplaced page shows; the expected stores are built here,
+    // entry after entry.
+    QByteArray keys;
+    QByteArray table0A;
+    QByteArray fn;
+    for (int p = 0; p < 160; ++p) {
+        QByteArray f = frame("10 00 00", pattern(4, 5 * p));
+        f[3] = char(p);
+        model.handle(f);
+        fn += pattern(4, 5 * p);
+        if (p >= 128) continue;
+        f = frame("0A 02 00 00 00 00 01", pattern(4, p));
+        f[2] = char(p);
+        model.handle(f);
+        keys += pattern(4, p);
+        f = frame("65 0A 00", pattern(4, 3 * p));
+        f[3] = char(p);
+        model.handle(f);
+        table0A += pattern(4, 3 * p);
+    }
+
+    QCOMPARE(readPages(model, hex("8A 02 FF 00 01"), 3, 8), keys);
+    QCOMPARE(model.keyMap(2, 1), keys);
+    QCOMPARE(readPages(model, hex("8A 00 FF 00 00"), 3, 8), DefaultKeyMaps::factoryKeyMap());
+    QCOMPARE(readPages(model, hex("90 00 00 FF 00"), 4, 10), fn);
+    QCOMPARE(readPages(model, hex("E5 0A 01 00"), 3, 8), table0A);
+    QCOMPARE(readPages(model, hex("E5 00 01 00"), 3, 4), model.magnetTable(0x00));
+    // Past the end of a store a page reads as zeros.
+    QCOMPARE(model.handle(frame("8A 02 FF 08 01")), QByteArray(64, '\0'));
+    QCOMPARE(model.handle(frame("E5 05 01 02")), QByteArray(64, '\0'));
+}
+
+void TestSimulator::pictureSlots()
+{
+    NativeKeyboardModel model;
+    const QByteArray map = pattern(392, 11);
+    for (int page = 0; page < 7; ++page) {
+        QByteArray f = frame("0C 04 FF 00 38", map.mid(page * 56, 56));
+        f[3] = char(page);
+        f[5] = char(page == 6);
+        model.handle(f);
+    }
+    QCOMPARE(model.picture(4), map);
+    QCOMPARE(model.picture(0), QByteArray(392, '\0'));
+    // Reads come in whole 64-byte pages: six of them give the 128 keys.
+    QCOMPARE(readPages(model, hex("8C 04 FF 00"), 3, 6), map.left(384));
+    QCOMPARE(model.handle(frame("8C 04 FF 06")), map.mid(384) + QByteArray(56, '\0'));
+}
+
+void TestSimulator::macroBlobs()
+{
+    NativeKeyboardModel model;
+    const QByteArray longBlob = pattern(112, 2);
+    const QByteArray shortBlob = pattern(56, 40);
+    for (int page = 0; page < 2; ++page) {
+        QByteArray f = frame("0B 31 00 38", longBlob.mid(page * 56, 56));
+        f[2] = char(page);
+        f[4] = char(page == 1);
+        model.handle(f);
+    }
+    QCOMPARE(model.macro(49), longBlob);
+    // A later, shorter macro in the same slot ends with its last page.
+    model.handle(frame("0B 31 00 38 01", shortBlob));
+    QCOMPARE(model.macro(49), shortBlob);
+    model.handle(frame("0B 32 00 38 01", shortBlob)); // slot 50 doesn't exist
+    QCOMPARE(model.macro(50), QByteArray());
+}
+
+void TestSimulator::factoryResetCommand()
+{
+    NativeKeyboardModel model(0x0AF7, 0x0301);
+    model.handle(frame("0A 00 00 00 00 01 00", hex("00 00 3A 00")));
+    model.handle(frame("65 00 00 FF 01", hex("10 00 00 00")));
+    model.handle(frame("06 05"));
+    model.handle(frame("01"));
+    QCOMPARE(model.keyMap(0, 0), DefaultKeyMaps::factoryKeyMap());
+    QCOMPARE(model.magnetValue(0x00, 5), 400u);
+    QCOMPARE(model.debounce(), NativeKeyboardModel().debounce());
+    QCOMPARE(model.firmwareVersion(), quint16(0x0301));
+    QCOMPARE(model.receivedFrames().size(), 4);
+}
+
+void TestSimulator::calibrationScanGrows()
+{
+    NativeKeyboardModel model;
+    model.setNow(1000);
+    model.handle(frame("1E 01"));
+    QVERIFY(model.calibrating());
+    QCOMPARE(readPages(model, hex("E5 FE 01 00"), 3, 4), QByteArray(256, '\0'));
+
+    QByteArray previous = model.magnetTable(0xFE);
+    int calibratedBefore = 0;
+    for (qint64 t = 1000; t <= 60000; t += 480) {
+        model.setNow(t);
+        int calibrated = 0;
+        for (int p = 0; p < 128; ++p) {
+            const quint32 v = model.magnetValue(0xFE, p);
+            const quint32 old = quint8(previous.at(2 * p)) | quint8(previous.at(2 * p + 1)) << 8;
+            QVERIFY2(v >= old, "a reading never falls back");
+            calibrated += (p == 92 ? v > 63 : v > 699);
+        }
+        QVERIFY(calibrated >= calibratedBefore);
+        calibratedBefore = calibrated;
+        previous = model.magnetTable(0xFE);
+    }
+    // One after another: by now every key of the matrix has been pressed, and no hole has.
+    const QByteArray keys = DefaultKeyMaps::factoryKeyMap();
+    for (int p = 0; p < 128; ++p) {
+        const bool hasKey = keys.mid(p * 4, 4) != QByteArray(4, '\0');
+        QCOMPARE(model.magnetValue(0xFE, p) > (p == 92 ? 63u : 699u), hasKey);
+    }
+    model.handle(frame("1E 00"));
+    QVERIFY(!model.calibrating());
+}
+
+void TestSimulator::enumeration()
+{
+    ManualClock clock;
+    auto hid = VirtualHidBackend::createDefaultSet(&clock, {});
+    VirtualKeyboard* wiredKb = hid->wiredKeyboard();
+    VirtualKeyboard* wirelessKb = hid->wirelessKeyboard();
+    QVERIFY(wiredKb && wirelessKb);
+
+    const QList<HidDeviceInfo> wiredEntries = hid->enumerate(0x3151, 0x502F);
+    QCOMPARE(wiredEntries.size(), 2);
+    QCOMPARE(wiredEntries[0].usagePage, quint16(0xFFFF));
+    QCOMPARE(wiredEntries[0].usage, quint16(1));
+    QCOMPARE(wiredEntries[0].path, wiredKb->inputPath());
+    QCOMPARE(wiredEntries[1].usage, quint16(2));
+    QCOMPARE(wiredEntries[1].path, wiredKb->commandPath());
+    QVERIFY(wiredEntries[0].path != wiredEntries[1].path);
+    QVERIFY(!wiredEntries[0].product.isEmpty());
+
+    const QList<HidDeviceInfo> wirelessEntries = hid->enumerate(0x3151, 0x5030);
+    QCOMPARE(wirelessEntries.size(), 1);
+    QCOMPARE(wirelessEntries[0].usagePage, quint16(0xFF55));
+    QCOMPARE(wirelessEntries[0].usage, quint16(0x0202));
+    QCOMPARE(wirelessEntries[0].path, wirelessKb->commandPath());
+
+    QCOMPARE(hid->enumerate(0x3151, 0).size(), 3);
+    QCOMPARE(hid->enumerate(0, 0).size(), 3);
+    QCOMPARE(hid->enumerate(0x05AC, 0).size(), 0);
+
+    // A second keyboard with the same ids gets paths of its own.
+    VirtualKeyboard* twin = hid->addWiredKeyboard(0x0EC3);
+    QVERIFY(twin->commandPath() != wiredKb->commandPath());
+    QCOMPARE(hid->enumerate(0x3151, 0x502F).size(), 4);
+    QCOMPARE(hid->wiredKeyboard(), wiredKb);
+}
+
+void TestSimulator::wiredFeatureRoundTrip()
+{
+    ManualClock clock;
+    VirtualHidBackend hid(&clock);
+    VirtualKeyboard* kb = hid.addWiredKeyboard(0x0123, 0x0401);
+    HidHandle* command = hid.openPath(kb->commandPath());
+    HidHandle* input = hid.openPath(kb->inputPath());
+    QVERIFY(command && input);
+    QCOMPARE(hid.openHandleCount(), 2);
+
+    QCOMPARE(featureSend(hid, command, wired(hex("8F"))), 65);
+    int result = 0;
+    const QByteArray reply = featureGet(hid, command, &result);
+    QCOMPARE(result, 65);
+    QCOMPARE(reply.left(10), hex("00 8F 23 01 00 00 00 00 01 04"));
+    // The firmware's feature buffer: a get with no new command reads the same reply again.
+    QCOMPARE(featureGet(hid, command, &result), reply);
+    QCOMPARE(kb->model().receivedFrames().size(), 1);
+    QCOMPARE(kb->model().receivedFrames().at(0).left(8), hex("8F 00 00 00 00 00 00 70"));
+
+    QCOMPARE(featureSend(hid, input, wired(hex("8F"))), -1); // the input interface has none
+    QCOMPARE(writeReport(hid, command, wireless(hex("8F"))), -1);
+
+    hid.close(input);
+    hid.close(command);
+    QCOMPARE(hid.openHandleCount(), 0);
+    QCOMPARE(featureSend(hid, command, wired(hex("8F"))), -1); // closed
+}
+
+void TestSimulator::wirelessTransport()
+{
+    ManualClock clock;
+    VirtualHidBackend hid(&clock);
+    VirtualKeyboard* kb = hid.addWirelessKeyboard(0x0AF7, 0x0300);
+    QVERIFY(kb->isWireless());
+    QVERIFY(kb->inputPath().isEmpty());
+    HidHandle* h = hid.openPath(kb->commandPath());
+    QVERIFY(h);
+    QCOMPARE(hid.setNonblocking(h, false), 0);
+
+    QCOMPARE(writeReport(hid, h, wireless(hex("04 03"))), 66);
+    QCOMPARE(writeReport(hid, h, wireless(hex("84"))), 66);
+    int result = 0;
+    QCOMPARE(readReport(hid, h, 400, &result).left(4), hex("06 55 04 03"));
+    QCOMPARE(result, 66);
+    QCOMPARE(readReport(hid, h, 400, &result).left(4), hex("06 55 84 03"));
+    QCOMPARE(kb->model().profile(), quint8(3));
+
+    // Nothing queued: the read waits out its timeout on the clock and gives nothing.
+    const qint64 before = clock.elapsedMs();
+    readReport(hid, h, 400, &result);
+    QCOMPARE(result, 0);
+    QCOMPARE(clock.elapsedMs() - before, qint64(400));
+
+    QCOMPARE(featureSend(hid, h, wired(hex("8F"))), -1); // no feature reports over the air
+}
+
+void TestSimulator::unplugAndReplug()
+{
+    ManualClock clock;
+    auto hid = VirtualHidBackend::createDefaultSet(&clock, {});
+    VirtualKeyboard* kb = hid->wiredKeyboard();
+    HidHandle* old = hid->openPath(kb->commandPath());
+    QVERIFY(old);
+
+    kb->unplug();
+    QVERIFY(!kb->isPlugged());
+    QCOMPARE(hid->enumerate(0x3151, 0x502F).size(), 0);
+    QCOMPARE(hid->enumerate(0x3151, 0).size(), 1); // the wireless one stays
+    QVERIFY(!hid->openPath(kb->commandPath()));
+    QCOMPARE(featureSend(*hid, old, wired(hex("8F"))), -1);
+    int result = 0;
+    featureGet(*hid, old, &result);
+    QCOMPARE(result, -1);
+
+    kb->replug();
+    QCOMPARE(hid->enumerate(0x3151, 0x502F).size(), 2);
+    QCOMPARE(featureSend(*hid, old, wired(hex("8F"))), -1); // a handle from before stays dead
+    HidHandle* fresh = hid->openPath(kb->commandPath());
+    QVERIFY(fresh);
+    QCOMPARE(featureSend(*hid, fresh, wired(hex("8F"))), 65);
+    QCOMPARE(hid->openHandleCount(), 2);
+    hid->close(old);
+    QCOMPARE(hid->openHandleCount(), 1);
+}
+
+void TestSimulator::droppedReplies_data()
+{
+    QTest::addColumn<bool>("isWireless");
+    QTest::newRow("wired") << false;
+    QTest::newRow("wireless") << true;
+}
+
+void TestSimulator::droppedReplies()
+{
+    QFETCH(bool, isWireless);
+    ManualClock clock;
+    auto hid = VirtualHidBackend::createDefaultSet(&clock, {});
+    VirtualKeyboard* kb = isWireless ? hid->wirelessKeyboard() : hid->wiredKeyboard();
+    HidHandle* h = hid->openPath(kb->commandPath());
+    kb->dropNextReplies(2);
+
+    auto ask = [&](const QByteArray& logical, int* result) {
+        if (isWireless) {
+            writeReport(*hid, h, wireless(logical));
+            return readReport(*hid, h, 400, result).mid(2);
+        }
+        featureSend(*hid, h, wired(logical));
+        return featureGet(*hid, h, result).mid(1);
+    };
+    int result = 0;
+    for (int i = 0; i < 2; ++i) {
+        const qint64 before = clock.elapsedMs();
+        ask(hex("86"), &result);
+        QCOMPARE(result, isWireless ? 0 : -1);
+        QCOMPARE(clock.elapsedMs() - before, qint64(isWireless ? 400 : 0));
+    }
+    // The command still reached the firmware; the lost answers don't come later.
+    QCOMPARE(kb->model().receivedFrames().size(), 2);
+    QCOMPARE(ask(hex("84"), &result).left(2), hex("84 00"));
+    QVERIFY(result > 0);
+}
+
+void TestSimulator::shortReplies_data()
+{
+    QTest::addColumn<bool>("isWireless");
+    QTest::addColumn<int>("length");
+    QTest::newRow("wired, 10") << false << 10;
+    QTest::newRow("wired, report id only") << false << 1;
+    QTest::newRow("wireless, 10") << true << 10;
+    QTest::newRow("wireless, prefix only") << true << 2;
+}
+
+void TestSimulator::shortReplies()
+{
+    QFETCH(bool, isWireless);
+    QFETCH(int, length);
+    ManualClock clock;
+    auto hid = VirtualHidBackend::createDefaultSet(&clock, {});
+    VirtualKeyboard* kb = isWireless ? hid->wirelessKeyboard() : hid->wiredKeyboard();
+    HidHandle* h = hid->openPath(kb->commandPath());
+    kb->shortNextReply(length);
+
+    int result = 0;
+    QByteArray first;
+    QByteArray second;
+    if (isWireless) {
+        writeReport(*hid, h, wireless(hex("8F")));
+        writeReport(*hid, h, wireless(hex("8F")));
+        first = readReport(*hid, h, 400, &result);
+        QCOMPARE(result, length);
+        second = readReport(*hid, h, 400, &result);
+    } else {
+        featureSend(*hid, h, wired(hex("8F")));
+        first = featureGet(*hid, h, &result);
+        QCOMPARE(result, length);
+        second = featureGet(*hid, h, &result);
+    }
+    QCOMPARE(result, isWireless ? 66 : 65); // only one reply is cut
+    QCOMPARE(first, second.left(length));
+}
+
+void TestSimulator::staleReport()
+{
+    ManualClock clock;
+    VirtualHidBackend hid(&clock);
+    VirtualKeyboard* kb = hid.addWirelessKeyboard(0x0AF7);
+    HidHandle* h = hid.openPath(kb->commandPath());
+    writeReport(hid, h, wireless(hex("8F")));
+    kb->staleReportNext();
+
+    int result = 0;
+    QCOMPARE(readReport(hid, h, 400, &result).left(2), hex("06 77"));
+    QCOMPARE(result, 66);
+    QCOMPARE(readReport(hid, h, 400, &result).left(4), hex("06 55 8F F7"));
+
+    // The protocol's reply taker skips the stale report by itself.
+    writeReport(hid, h, wireless(hex("86")));
+    kb->staleReportNext();
+    QByteArray reply;
+    QVERIFY(Frame::takeReplyWireless(hid, h, &reply));
+    QCOMPARE(reply.left(2), hex("86 02"));
+}
+
+void TestSimulator::keyTestStream()
+{
+    ManualClock clock;
+    VirtualHidBackend hid(&clock);
+    VirtualKeyboard* kb = hid.addWiredKeyboard();
+    HidHandle* input = hid.openPath(kb->inputPath());
+    HidHandle* command = hid.openPath(kb->commandPath());
+    hid.setNonblocking(input, true);
+    quint8 buffer[64] = {};
+    QCOMPARE(hid.read(input, buffer, 64), 0); // no test, no stream
+
+    featureSend(hid, command, wired(hex("1B 01")));
+    QVERIFY(kb->model().keyTestOn());
+    quint16 deepest = 0;
+    quint16 shallowest = 0xFFFF;
+    int reports = 0;
+    for (int step = 0; step < 200; ++step) {
+        for (int poll = 0; poll < 3; ++poll) { // polled faster than the stream runs
+            const int n = hid.read(input, buffer, 64);
+            if (n <= 0) continue;
+            ++reports;
+            QCOMPARE(buffer[0], quint8(0x05));
+            QCOMPARE(buffer[1], quint8(0x1B));
+            const quint16 travel = quint16(buffer[2] | buffer[3] << 8);
+            deepest = qMax(deepest, travel);
+            shallowest = qMin(shallowest, travel);
+        }
+        clock.advance(10);
+    }
+    QCOMPARE(reports, 100); // one per 20 ms over 2 s
+    QVERIFY(deepest >= 700 && deepest <= 740);
+    QVERIFY(shallowest < 50);
+
+    featureSend(hid, command, wired(hex("1B 00")));
+    clock.advance(100);
+    QCOMPARE(hid.read(input, buffer, 64), 0);
+}
+
+void TestSimulator::connectionReadsTheKeyboard_data()
+{
+    QTest::addColumn<bool>("isWireless");
+    QTest::newRow("wired") << false;
+    QTest::newRow("wireless") << true;
+}
+
+void TestSimulator::connectionReadsTheKeyboard()
+{
+    QFETCH(bool, isWireless);
+    ManualClock clock;
+    QTemporaryDir dir;
+    auto hid = VirtualHidBackend::createDefaultSet(&clock,
+                                                   {.deviceId = 0x0EC3, .firmwareVersion = 0x0310});
+    VirtualKeyboard* kb = isWireless ? hid->wirelessKeyboard() : hid->wiredKeyboard();
+    // Something of the keyboard's own, so the cache can't match by accident.
+    kb->model().handle(frame("04 01"));
+    kb->model().handle(frame("0A 01 07 00 00 01 02", hex("03 00 E9 00")));
+    kb->model().handle(frame("65 00 00 FF 01", hex("F4 01 00 00")));
+    kb->model().handle(frame("06 04"));
+
+    DialogDeviceConnect conn(hid.get(), &clock, dir.filePath("device.ini"));
+    connect(&conn, &DialogDeviceConnect::onUpdataLayer, &conn,
+            [&conn](int layer) { conn.DoSetProfile(quint8(layer)); });
+    QSignalSpy done(&conn, &DialogDeviceConnect::onReadDone);
+    conn.DoConnectDevice(kb->vendorId(), kb->productId(), isWireless, "3779",
+                         QString::fromLatin1(kb->commandPath()));
+    QVERIFY(conn.isConnected());
+    QVERIFY(clock.advanceUntil([&] { return done.count() == 1; }, 30000, 5));
+
+    QCOMPARE(conn.GetDeviceId(), 0x0EC3u);
+    QCOMPARE(conn.GetCurrentProfile(), quint8(1));
+    QCOMPARE(conn.GetDebounce(), quint8(4));
+    for (int layer = 0; layer < 4; ++layer)
+        QCOMPARE(conn.GetKeyMatrix(layer), kb->model().keyMap(1, layer));
+    QCOMPARE(conn.GetFnMatrix(0), kb->model().fnMap());
+    for (quint8 table : {0x00, 0x05, 0x0A, 0xFB})
+        QCOMPARE(conn.GetMagnetTable(DialogDeviceConnect::magnetTableIndex(table)),
+                 kb->model().magnetTable(table));
+    // The profile the keyboard answered was set again before the read.
+    const QList<QByteArray> frames = kb->model().receivedFrames().mid(4);
+    QVERIFY(std::any_of(frames.begin(), frames.end(),
+                        [](const QByteArray& f) { return f.startsWith(hex("04 01")); }));
+    QCOMPARE(frames.first().left(2), isWireless ? hex("8F 00") : hex("1B 01"));
+    QCOMPARE(hid->openHandleCount(), isWireless ? 1 : 3);
+}
+
+QTEST_GUILESS_MAIN(TestSimulator)
+#include "tst_simulator.moc"
