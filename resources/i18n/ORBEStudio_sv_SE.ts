@@ -1,0 +1,545 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sv_SE" sourcelanguage="zh_CN">
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>重新连接</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备 ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>板载配置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>键盘回报率</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按键防抖等级</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>键盘 VID %1 PID %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在查找键盘…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未找到键盘</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已找到键盘，但无法打开（权限不足？）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已连接</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在读取键盘数据…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>尚未读取键盘数据</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>读取完成：%1（用时 %2 秒）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未知（%1）</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleGenKeymapping</name>
+    <message>
+        <source>上一曲</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下一曲</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放/暂停</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>音量+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>音量-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放器</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>计算器</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>邮件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>我的电脑</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>主页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>后退</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>前进</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>收藏</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>亮度+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>亮度-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>缩小</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>呼出Siri</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切换输入法</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fn键锁屏</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>锁屏</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R-Fn键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DPI-Loop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DPI+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DPI-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DPI-Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>电源</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>睡眠</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>唤醒</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile-Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile-Loop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile-1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile-2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile-3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile-4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile-5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>L-Fn键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>锁Win</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切换Win</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切换Mac</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>系统切换</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check Battery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WASD切换</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fn层切换</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备节能</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APP CTRL切换</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光开/关</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光灯效循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光灯效+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光灯效-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光亮度循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光亮度+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光亮度-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光速度循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光速度-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光速度+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光方向循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光向左</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光向右</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光颜色循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光颜色+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>背光颜色-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Pic 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Pic 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Pic 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Pic 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Pic 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Pic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>侧光开/关</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>侧光亮度循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>侧光速度循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>侧光速度+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>侧光速度-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>侧光颜色循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>侧光颜色+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>侧光颜色-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2.4G</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>蓝牙1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>蓝牙2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>蓝牙3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>有线</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>有线-蓝牙-2.4G</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2.4G配对</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>蓝牙配对</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print Screen键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左键单击</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右键单击</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中键按下</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>光标前进</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>光标后退</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>滚轮-向左</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>滚轮-向右</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>滚轮-向上</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>滚轮-向下</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XUP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XDOWN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>YUP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>YDOWN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>功能</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>鼠标</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+// Start-up and the main window.
+Q_DECLARE_LOGGING_CATEGORY(lcApp)

@@ -1,0 +1,109 @@
+#include "AppStartup.h"
+
+#include "AppLog.h"
+#include "Clock.h"
+#include "HidapiBackend.h"
+#include "VirtualHidBackend.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFontDatabase>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <cstring>
+
+namespace AppStartup {
+
+namespace {
+const QString kTranslationPrefix = QStringLiteral("ORBEStudio_");
+const QString kTranslationDir = QStringLiteral(":/i18n/");
+const QString kSimulateFlag = QStringLiteral("--simulate");
+} // namespace
+
+QString translationBaseName(const QString& uiLanguage)
+{
+    return kTranslationPrefix + QLocale(uiLanguage).name();
+}
+
+QString installAppTranslation(QTranslator& translator, const QStringList& uiLanguages)
+{
+    qCDebug(lcApp) << uiLanguages;
+    for (const QString& language : uiLanguages) {
+        const QString baseName = translationBaseName(language);
+        qCDebug(lcApp).noquote() << baseName;
+        if (translator.load(kTranslationDir + baseName)) {
+            QCoreApplication::installTranslator(&translator);
+            return baseName;
+        }
+    }
+    return QString();
+}
+
+void installQtTranslations(QTranslator& qtBase, QTranslator& qt, const QString& localeName)
+{
+    const QString dir = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (!qtBase.load(QStringLiteral("qtbase_") + localeName, dir))
+        qCDebug(lcApp) << "no Qt-base translation for" << localeName;
+    if (!qt.load(QStringLiteral("qt_") + localeName, dir))
+        qCDebug(lcApp) << "no Qt translation for" << localeName;
+    QCoreApplication::installTranslator(&qtBase);
+    QCoreApplication::installTranslator(&qt);
+}
+
+QString siblingRoot(const QString& applicationDir)
+{
+    QString root = applicationDir;
+    if (!QDir(root + QStringLiteral("/RyExe")).exists()) root += QStringLiteral("/..");
+    return root;
+}
+
+QStringList fontPaths(const QString& root)
+{
+    QStringList paths;
+    for (const char* file : kFontFiles)
+        paths.append(root + QStringLiteral("/WsExe/font/") + QLatin1String(file));
+    return paths;
+}
+
+void loadFonts(const QString& root)
+{
+    for (const QString& path : fontPaths(root))
+        QFontDatabase::addApplicationFont(path);
+}
+
+QString applicationStyleSheet()
+{
+    return QStringLiteral(
+        "* { font-family: MiSans,MiSans;}"
+        "QLabel { font-size: 14px; font-weight: 400 ;}"
+        "QLabel:disabled { color: #B3B3B3; }"
+        "QLineEdit { border: 1px solid #D0D0D0; background-color: #EDEDED; border-radius: 6px;"
+        " min-height: 20px; padding: 0px 6px; color: black; font-size: 14px; }"
+        "QLineEdit:focus { border: 1px solid #6329B6; }");
+}
+
+std::unique_ptr<HidBackend> createHidBackend(bool simulate)
+{
+    if (simulate) return VirtualHidBackend::createDefaultSet(QtClock::shared(), SimulatorOptions{});
+    return std::make_unique<HidapiBackend>();
+}
+
+bool takeSimulateFlag(int& argc, char** argv)
+{
+    bool found = false;
+    int kept = 0;
+    for (int i = 0; i < argc; ++i) {
+        if (i > 0 && kSimulateFlag == QLatin1String(argv[i])) {
+            found = true;
+            continue;
+        }
+        argv[kept++] = argv[i];
+    }
+    for (int i = kept; i < argc; ++i)
+        argv[i] = nullptr;
+    argc = kept;
+    return found;
+}
+
+} // namespace AppStartup

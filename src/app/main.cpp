@@ -1,0 +1,50 @@
+#include "AppStartup.h"
+#include "HidBackend.h"
+#include "MainWindow.h"
+#include "Platform.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QTranslator>
+#include <clocale>
+
+int main(int argc, char* argv[])
+{
+    // The virtual keyboards stand in for hidapi; the flag is ours, not the framework's.
+    const bool simulate = AppStartup::takeSimulateFlag(argc, argv);
+
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // Both are the default in Qt 6 and deprecated; kept so the start-up reads the same everywhere.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QT_WARNING_POP
+
+    std::setlocale(LC_ALL, ".UTF-8");
+
+    QApplication app(argc, argv);
+
+    QTranslator appTranslator;
+    AppStartup::installAppTranslation(appTranslator, QLocale::system().uiLanguages());
+
+    QTranslator qtBaseTranslator;
+    QTranslator qtTranslator;
+    AppStartup::installQtTranslations(qtBaseTranslator, qtTranslator, QLocale::system().name());
+
+    const std::unique_ptr<Platform> platform = Platform::create();
+    platform->setConsoleOutputUtf8();
+
+    const QString root = AppStartup::siblingRoot(QCoreApplication::applicationDirPath());
+    AppStartup::loadFonts(root);
+
+    app.setStyleSheet(AppStartup::applicationStyleSheet());
+
+    MainWindow window(AppStartup::createHidBackend(simulate));
+    window.appTranslator = &appTranslator;
+    window.qtBaseTranslator = &qtBaseTranslator;
+    window.qtTranslator = &qtTranslator;
+    window.show();
+    return app.exec();
+}

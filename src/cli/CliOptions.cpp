@@ -1,0 +1,124 @@
+#include "CliOptions.h"
+
+namespace {
+
+bool takeValue(const QStringList& args, int* i, QString* value, QString* error)
+{
+    if (*i + 1 >= args.size()) {
+        *error = QStringLiteral("%1 needs a value").arg(args.at(*i));
+        return false;
+    }
+    *value = args.at(++*i);
+    return true;
+}
+
+bool takeNumber(const QStringList& args, int* i, quint64 max, quint64* number, QString* error)
+{
+    QString text;
+    if (!takeValue(args, i, &text, error)) return false;
+    if (!CallRegistry::parseNumber(text, max, number)) {
+        *error = QStringLiteral("%1: \"%2\" is not a number up to %3 (decimal or 0x hex)")
+                     .arg(args.at(*i - 1), text)
+                     .arg(max);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool CliOptions::parse(const QStringList& args, CliOptions* o, QString* error)
+{
+    int i = 0;
+    for (; i < args.size(); ++i) {
+        const QString& a = args.at(i);
+        quint64 n = 0;
+        if (!a.startsWith(QLatin1String("-"))) break;
+        if (a == QLatin1String("--simulate")) {
+            o->simulate = true;
+        } else if (a == QLatin1String("--wireless")) {
+            o->wireless = true;
+        } else if (a == QLatin1String("--timing")) {
+            o->timing = true;
+        } else if (a == QLatin1String("--help") || a == QLatin1String("-h")) {
+            o->help = true;
+            return true;
+        } else if (a == QLatin1String("--sim-version")) {
+            if (!takeNumber(args, &i, 0xFFFF, &n, error)) return false;
+            o->simFirmwareVersion = quint16(n);
+        } else if (a == QLatin1String("--sim-id")) {
+            if (!takeNumber(args, &i, 0xFFFFFFFF, &n, error)) return false;
+            o->simDeviceId = quint32(n);
+        } else if (a == QLatin1String("--vid")) {
+            if (!takeNumber(args, &i, 0xFFFF, &n, error)) return false;
+            o->vid = quint16(n);
+        } else if (a == QLatin1String("--pid")) {
+            if (!takeNumber(args, &i, 0xFFFF, &n, error)) return false;
+            o->pid = quint16(n);
+        } else if (a == QLatin1String("--trace")) {
+            if (!takeValue(args, &i, &o->traceFile, error)) return false;
+        } else {
+            *error = QStringLiteral("unknown option %1").arg(a);
+            return false;
+        }
+    }
+
+    if (i >= args.size()) {
+        *error = QStringLiteral("a command is missing: info, dump or call");
+        return false;
+    }
+    const QString command = args.at(i);
+    const QStringList rest = args.mid(i + 1);
+    if (command == QLatin1String("info") || command == QLatin1String("dump")) {
+        o->command = command == QLatin1String("info") ? Command::Info : Command::Dump;
+        if (!rest.isEmpty()) {
+            *error = QStringLiteral("%1 takes no arguments").arg(command);
+            return false;
+        }
+        return true;
+    }
+    if (command == QLatin1String("call")) {
+        o->command = Command::Call;
+        return CallRegistry::plan(rest, &o->calls, error);
+    }
+    *error = QStringLiteral("unknown command \"%1\": info, dump or call").arg(command);
+    return false;
+}
+
+QString CliOptions::usage()
+{
+    QString text = QStringLiteral(
+        "Usage: orbehub-cli [OPTIONS] COMMAND\n"
+        "\n"
+        "Commands:\n"
+        "  info     connect, ask identity, options and profile (8F, 89, 84) and print\n"
+        "           the device id, the firmware version and the version text\n"
+        "  dump     connect, read the selected profile whole and print the cache as JSON\n"
+        "  call OPERATION ARGS... [-- OPERATION ARGS...]...\n"
+        "           connect, read the profile, run the operations in order (each one until\n"
+        "           the connection is idle again), then print the cache as JSON\n"
+        "\n"
+        "Options:\n"
+        "  --simulate         use the built-in virtual keyboards instead of hidapi\n"
+        "  --wireless         connect through the wireless interface (usage page FF55,\n"
+        "                     usage 0202): the virtual wireless keyboard with --simulate\n"
+        "  --sim-version N    firmware version of the virtual keyboards (default 0x300)\n"
+        "  --sim-id N         device id of the virtual keyboards (default 0xAF7)\n"
+        "  --vid N, --pid N   the keyboard's USB ids (default: lastVID/lastPID of\n"
+        "                     config/device.ini, 3151/502F when unset)\n"
+        "  --trace FILE       write every HID transfer to FILE\n"
+        "  --timing           print the read sequence's duration to stderr\n"
+        "  -h, --help         this text\n"
+        "\n"
+        "Numbers are decimal or 0x hex; a key entry or byte string is hex digits without\n"
+        "blanks; a colour is #RRGGBB.\n"
+        "\n"
+        "Operations of call:\n");
+    for (const CallOperation& op : CallRegistry::operations())
+        text += QStringLiteral("  ") + CallRegistry::signature(op) + QLatin1Char('\n');
+    text += QStringLiteral(
+        "\n"
+        "Exit status: 0 done; 2 bad command line; 3 no keyboard found; 4 keyboard found but\n"
+        "not opened (permissions); 5 no answer or read not finished within 30 s; 1 other.\n");
+    return text;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "CallRegistry.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+// The command line of orbehub-cli, read and checked before anything touches a device.
+struct CliOptions
+{
+    enum class Command { Info, Dump, Call };
+
+    bool simulate = false;
+    bool wireless = false;
+    bool timing = false;
+    bool help = false;
+    quint32 simDeviceId = 0x0AF7;
+    quint16 simFirmwareVersion = 0x0300;
+    std::optional<quint16> vid;
+    std::optional<quint16> pid;
+    QString traceFile;
+    Command command = Command::Info;
+    QList<PlannedCall> calls;
+
+    // args without the program name. False with a one-line error.
+    static bool parse(const QStringList& args, CliOptions* options, QString* error);
+    static QString usage();
+};

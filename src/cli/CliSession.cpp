@@ -1,0 +1,231 @@
+#include "CliSession.h"
+
+#include "CacheJson.h"
+#include "Clock.h"
+#include "DialogDeviceConnect.h"
+#include "HidapiBackend.h"
+#include "TracingHidBackend.h"
+#include "VirtualHidBackend.h"
+#include "VirtualKeyboard.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QTextStream>
+
+namespace {
+
+// The interfaces a native keyboard offers on each transport.
+constexpr quint16 kWiredUsagePage = 0xFFFF;
+constexpr quint16 kWiredInputUsage = 1;
+constexpr quint16 kWiredCommandUsage = 2;
+constexpr quint16 kWirelessUsagePage = 0xFF55;
+constexpr quint16 kWirelessUsage = 0x0202;
+
+bool isWiredInterface(const HidDeviceInfo& e)
+{
+    return e.usagePage == kWiredUsagePage &&
+           (e.usage == kWiredInputUsage || e.usage == kWiredCommandUsage);
+}
+
+bool isWirelessInterface(const HidDeviceInfo& e)
+{
+    return e.usagePage == kWirelessUsagePage && e.usage == kWirelessUsage;
+}
+
+} // namespace
+
+CliSession::CliSession(const CliOptions& o, QTextStream& outStream, QTextStream& errStream)
+    : options(o), out(outStream), err(errStream), clock(QtClock::shared())
+{
+}
+
+CliSession::~CliSession()
+{
+    // The connection closes its handles through the backend, so it goes first.
+    device.reset();
+    tracer.reset();
+    backend.reset();
+}
+
+void CliSession::start()
+{
+    if (!openBackend() || !connectKeyboard()) return;
+    armDeadline(options.command == CliOptions::Command::Info
+                    ? QStringLiteral("the keyboard did not answer within 30 s")
+                    : QStringLiteral("the read sequence did not end within 30 s"));
+}
+
+bool CliSession::openBackend()
+{
+    if (options.simulate) {
+        SimulatorOptions sim;
+        sim.deviceId = options.simDeviceId;
+        sim.firmwareVersion = options.simFirmwareVersion;
+        auto virtualSet = VirtualHidBackend::createDefaultSet(clock, sim);
+        const VirtualKeyboard* keyboard =
+            options.wireless ? virtualSet->wirelessKeyboard() : virtualSet->wiredKeyboard();
+        vid = options.vid.value_or(keyboard->vendorId());
+        pid = options.pid.value_or(keyboard->productId());
+        backend = std::move(virtualSet);
+    } else {
+        backend = std::make_unique<HidapiBackend>();
+    }
+    hid = backend.get();
+
+    if (!options.traceFile.isEmpty()) {
+        traceFile = std::make_unique<QFile>(options.traceFile);
+        if (!traceFile->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+            finish(Failed, QStringLiteral("cannot write the trace file %1: %2")
+                               .arg(options.traceFile, traceFile->errorString()));
+            return false;
+        }
+        tracer = std::make_unique<TracingHidBackend>(hid, traceFile.get(), clock);
+        hid = tracer.get();
+    }
+
+    device = std::make_unique<DialogDeviceConnect>(hid, clock);
+    if (!options.simulate) {
+        // What the connection loaded from device.ini, unless given.
+        vid = options.vid.value_or(device->vidText().trimmed().toUShort(nullptr, 16));
+        pid = options.pid.value_or(device->pidText().trimmed().toUShort(nullptr, 16));
+    }
+
+    connect(device.get(), &DialogDeviceConnect::onConnect, this, [this] { opened = true; });
+    connect(device.get(), &DialogDeviceConnect::onUpdataLayer, this, &CliSession::onLayer);
+    connect(device.get(), &DialogDeviceConnect::onReadAll, this, &CliSession::onReadStarted);
+    connect(device.get(), &DialogDeviceConnect::onReadDone, this, &CliSession::onReadFinished);
+    return true;
+}
+
+bool CliSession::connectKeyboard()
+{
+    const QString ids = QString::asprintf("%04X:%04X", vid, pid);
+    QByteArray wirelessPath;
+    bool listed = false;
+    for (const HidDeviceInfo& e : hid->enumerate(vid, pid)) {
+        if (options.wireless && isWirelessInterface(e) && wirelessPath.isEmpty())
+            wirelessPath = e.path;
+        listed = listed || (options.wireless ? isWirelessInterface(e) : isWiredInterface(e));
+    }
+    if (!listed) {
+        finish(NotFound, options.wireless
+                             ? QStringLiteral("no wireless keyboard %1 found (no interface "
+                                              "with usage page FF55, usage 0202)")
+                                   .arg(ids)
+                             : QStringLiteral("no keyboard %1 found").arg(ids));
+        return false;
+    }
+
+    if (options.wireless) {
+        device->DoConnectDevice(vid, pid, true, ids, QString::fromUtf8(wirelessPath));
+        opened = device->isConnected();
+    } else {
+        device->setVidText(QString::asprintf("%04X", vid));
+        device->setPidText(QString::asprintf("%04X", pid));
+        opened = false;
+        device->connectStep();
+    }
+    if (!opened) {
+        finish(NotOpened,
+               QStringLiteral("keyboard %1 is present but could not be opened: on Linux a "
+                              "permission problem, install packaging/linux/70-orbehub.rules "
+                              "(see README, Troubleshooting)")
+                   .arg(ids));
+        return false;
+    }
+    return true;
+}
+
+void CliSession::onLayer(int layer)
+{
+    if (finished) return;
+    if (options.command == CliOptions::Command::Info) {
+        printInfo(layer);
+        finish(Done);
+        return;
+    }
+    // As the hub's layer buttons do: select the profile, which reads it whole.
+    device->DoSetProfile(static_cast<quint8>(layer));
+}
+
+void CliSession::onReadStarted()
+{
+    readStartedMs = clock->elapsedMs();
+}
+
+void CliSession::onReadFinished()
+{
+    if (finished) return;
+    if (options.timing && readStartedMs >= 0)
+        err << QStringLiteral("read sequence: %1 ms\n").arg(clock->elapsedMs() - readStartedMs)
+            << Qt::flush;
+    if (readDone) return; // a later sequence, started by an operation; the idle wait covers it
+    readDone = true;
+    if (options.command == CliOptions::Command::Dump) {
+        printCache();
+        finish(Done);
+        return;
+    }
+    runNextCall();
+}
+
+void CliSession::runNextCall()
+{
+    if (nextCall >= options.calls.size()) {
+        printCache();
+        finish(Done);
+        return;
+    }
+    const PlannedCall& call = options.calls.at(nextCall++);
+    armDeadline(QStringLiteral("%1 did not finish within 30 s").arg(call.operation->name));
+    call.operation->invoke(*device, call.args);
+    if (!idlePoll) idlePoll = clock->createTimer([this] { checkIdle(); }, false);
+    idlePoll->start(kIdlePollMs);
+}
+
+void CliSession::checkIdle()
+{
+    if (finished || !device->isIdle()) return;
+    idlePoll->stop();
+    runNextCall();
+}
+
+void CliSession::printInfo(int layer)
+{
+    out << QStringLiteral("device id: %1 (0x%2)\n")
+               .arg(device->GetDeviceId())
+               .arg(QString::number(device->GetDeviceId(), 16).toUpper());
+    out << QString::asprintf("firmware version: 0x%03X\n", device->GetFirmwareVersion());
+    out << QStringLiteral("version text: %1\n").arg(device->versionText());
+    out << QStringLiteral("profile: %1\n").arg(layer);
+    out << QStringLiteral("transport: %1\n")
+               .arg(device->isWirelessConnection() ? QStringLiteral("wireless")
+                                                   : QStringLiteral("wired"));
+    out.flush();
+}
+
+void CliSession::printCache()
+{
+    out << QString::fromUtf8(QJsonDocument(CacheJson::fromConnection(*device)).toJson());
+    out.flush();
+}
+
+void CliSession::armDeadline(const QString& what)
+{
+    deadline = clock->createTimer([this, what] { finish(TimedOut, what); }, true);
+    deadline->start(kDeadlineMs);
+}
+
+void CliSession::finish(int status, const QString& message)
+{
+    if (finished) return;
+    finished = true;
+    if (idlePoll) idlePoll->stop();
+    if (deadline) deadline->stop();
+    if (!message.isEmpty()) err << QStringLiteral("orbehub-cli: ") << message << Qt::endl;
+    // Queued, so that it also works before the event loop has started.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [status] { QCoreApplication::exit(status); },
+        Qt::QueuedConnection);
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "CliOptions.h"
+
+#include <QObject>
+#include <memory>
+
+class Clock;
+class ClockTimer;
+class DialogDeviceConnect;
+class HidBackend;
+class QFile;
+class QTextStream;
+
+// One run of the tool: opens the backend, connects, lets the first command chain and the read
+// sequence run as the hub does, carries out the command, and ends the event loop with the exit
+// status.
+class CliSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum ExitStatus {
+        Done = 0,
+        Failed = 1,
+        BadUsage = 2,
+        NotFound = 3,
+        NotOpened = 4,
+        TimedOut = 5,
+    };
+    static constexpr int kDeadlineMs = 30000;
+    static constexpr int kIdlePollMs = 5;
+
+    CliSession(const CliOptions& options, QTextStream& out, QTextStream& err);
+    ~CliSession() override;
+
+    // Call with the event loop running (or about to run); it exits the loop when done.
+    void start();
+
+private:
+    bool openBackend();
+    bool connectKeyboard();
+    void onLayer(int layer);
+    void onReadStarted();
+    void onReadFinished();
+    void runNextCall();
+    void checkIdle();
+    void printInfo(int layer);
+    void printCache();
+    void armDeadline(const QString& what);
+    void finish(int status, const QString& message = QString());
+
+    CliOptions options;
+    QTextStream& out;
+    QTextStream& err;
+    Clock* clock;
+
+    std::unique_ptr<HidBackend> backend;
+    std::unique_ptr<QFile> traceFile;
+    std::unique_ptr<HidBackend> tracer;
+    HidBackend* hid = nullptr;
+    std::unique_ptr<DialogDeviceConnect> device;
+    std::unique_ptr<ClockTimer> idlePoll;
+    std::unique_ptr<ClockTimer> deadline;
+
+    quint16 vid = 0;
+    quint16 pid = 0;
+    bool opened = false;
+    bool readDone = false;
+    bool finished = false;
+    int nextCall = 0;
+    qint64 readStartedMs = -1;
+};

@@ -1,0 +1,29 @@
+#include "CliOptions.h"
+#include "CliSession.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+#include <QTimer>
+#include <cstdio>
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+
+    CliOptions options;
+    QString error;
+    if (!CliOptions::parse(app.arguments().mid(1), &options, &error)) {
+        err << "orbehub-cli: " << error << "\n(orbehub-cli --help shows the usage)" << Qt::endl;
+        return CliSession::BadUsage;
+    }
+    if (options.help) {
+        out << CliOptions::usage() << Qt::flush;
+        return CliSession::Done;
+    }
+
+    CliSession session(options, out, err);
+    QTimer::singleShot(0, &session, &CliSession::start);
+    return app.exec();
+}
