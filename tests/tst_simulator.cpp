@@ -48,40 +48,39 @@ QByteArray readPages(NativeKeyboardModel& model, QByteArray command, int pageOff
     return all;
 }
 
-QByteArray wired(const QByteArray& logical)
+// One keyboard of the default set with its command interface open.
+struct Link
 {
-    return Frame::wrapWired(Frame::close(logical));
-}
+    explicit Link(bool isWireless)
+        : kb(isWireless ? hid->wirelessKeyboard() : hid->wiredKeyboard()),
+          h(hid->openPath(kb->commandPath())), wireless(isWireless)
+    {
+    }
 
-QByteArray wireless(const QByteArray& logical)
-{
-    return Frame::wrapWireless(Frame::close(logical));
-}
+    int send(const QByteArray& logical)
+    {
+        const QByteArray closed = Frame::close(logical);
+        const QByteArray r = wireless ? Frame::wrapWireless(closed) : Frame::wrapWired(closed);
+        const auto* data = reinterpret_cast<const quint8*>(r.constData());
+        return wireless ? hid->write(h, data, r.size()) : hid->sendFeatureReport(h, data, r.size());
+    }
 
-QByteArray featureGet(VirtualHidBackend& hid, HidHandle* h, int* result)
-{
-    quint8 buffer[Frame::kReplyBufferSize] = {};
-    *result = hid.getFeatureReport(h, buffer, Frame::kWiredLength);
-    return QByteArray(reinterpret_cast<const char*>(buffer), qMax(0, *result));
-}
+    // The report as the transport hands it over, report id or prefix included.
+    QByteArray take(int* result, HidHandle* handle = nullptr)
+    {
+        quint8 buffer[Frame::kReplyBufferSize] = {};
+        handle = handle ? handle : h;
+        *result = wireless ? hid->readTimeout(handle, buffer, Frame::kWirelessLength, 400)
+                           : hid->getFeatureReport(handle, buffer, Frame::kWiredLength);
+        return QByteArray(reinterpret_cast<const char*>(buffer), qMax(0, *result));
+    }
 
-int featureSend(VirtualHidBackend& hid, HidHandle* h, const QByteArray& report)
-{
-    return hid.sendFeatureReport(h, reinterpret_cast<const quint8*>(report.constData()),
-                                 report.size());
-}
-
-int writeReport(VirtualHidBackend& hid, HidHandle* h, const QByteArray& report)
-{
-    return hid.write(h, reinterpret_cast<const quint8*>(report.constData()), report.size());
-}
-
-QByteArray readReport(VirtualHidBackend& hid, HidHandle* h, int timeoutMs, int* result)
-{
-    quint8 buffer[Frame::kReplyBufferSize] = {};
-    *result = hid.readTimeout(h, buffer, Frame::kWirelessLength, timeoutMs);
-    return QByteArray(reinterpret_cast<const char*>(buffer), qMax(0, *result));
-}
+    ManualClock clock;
+    std::unique_ptr<VirtualHidBackend> hid = VirtualHidBackend::createDefaultSet(&clock, {});
+    VirtualKeyboard* kb;
+    HidHandle* h;
+    bool wireless;
+};
 
 } // namespace
 
@@ -108,14 +107,11 @@ private slots:
 
     // ---- transports and faults
     void enumeration();
-    void wiredFeatureRoundTrip();
-    void wirelessTransport();
+    void transports_data();
+    void transports();
+    void faults_data();
+    void faults();
     void unplugAndReplug();
-    void droppedReplies_data();
-    void droppedReplies();
-    void shortReplies_data();
-    void shortReplies();
-    void staleReport();
     void keyTestStream();
 
     // ---- the protocol core against the virtual keyboard
@@ -432,210 +428,151 @@ void TestSimulator::enumeration()
     QCOMPARE(hid->wiredKeyboard(), wiredKb);
 }
 
-void TestSimulator::wiredFeatureRoundTrip()
-{
-    ManualClock clock;
-    VirtualHidBackend hid(&clock);
-    VirtualKeyboard* kb = hid.addWiredKeyboard(0x0123, 0x0401);
-    HidHandle* command = hid.openPath(kb->commandPath());
-    HidHandle* input = hid.openPath(kb->inputPath());
-    QVERIFY(command && input);
-    QCOMPARE(hid.openHandleCount(), 2);
-
-    QCOMPARE(featureSend(hid, command, wired(hex("8F"))), 65);
-    int result = 0;
-    const QByteArray reply = featureGet(hid, command, &result);
-    QCOMPARE(result, 65);
-    QCOMPARE(reply.left(10), hex("00 8F 23 01 00 00 00 00 01 04"));
-    // The firmware's feature buffer: a get with no new command reads the same reply again.
-    QCOMPARE(featureGet(hid, command, &result), reply);
-    QCOMPARE(kb->model().receivedFrames().size(), 1);
-    QCOMPARE(kb->model().receivedFrames().at(0).left(8), hex("8F 00 00 00 00 00 00 70"));
-
-    QCOMPARE(featureSend(hid, input, wired(hex("8F"))), -1); // the input interface has none
-    QCOMPARE(writeReport(hid, command, wireless(hex("8F"))), -1);
-
-    hid.close(input);
-    hid.close(command);
-    QCOMPARE(hid.openHandleCount(), 0);
-    QCOMPARE(featureSend(hid, command, wired(hex("8F"))), -1); // closed
-}
-
-void TestSimulator::wirelessTransport()
-{
-    ManualClock clock;
-    VirtualHidBackend hid(&clock);
-    VirtualKeyboard* kb = hid.addWirelessKeyboard(0x0AF7, 0x0300);
-    QVERIFY(kb->isWireless());
-    QVERIFY(kb->inputPath().isEmpty());
-    HidHandle* h = hid.openPath(kb->commandPath());
-    QVERIFY(h);
-    QCOMPARE(hid.setNonblocking(h, false), 0);
-
-    QCOMPARE(writeReport(hid, h, wireless(hex("04 03"))), 66);
-    QCOMPARE(writeReport(hid, h, wireless(hex("84"))), 66);
-    int result = 0;
-    QCOMPARE(readReport(hid, h, 400, &result).left(4), hex("06 55 04 03"));
-    QCOMPARE(result, 66);
-    QCOMPARE(readReport(hid, h, 400, &result).left(4), hex("06 55 84 03"));
-    QCOMPARE(kb->model().profile(), quint8(3));
-
-    // Nothing queued: the read waits out its timeout on the clock and gives nothing.
-    const qint64 before = clock.elapsedMs();
-    readReport(hid, h, 400, &result);
-    QCOMPARE(result, 0);
-    QCOMPARE(clock.elapsedMs() - before, qint64(400));
-
-    QCOMPARE(featureSend(hid, h, wired(hex("8F"))), -1); // no feature reports over the air
-}
-
-void TestSimulator::unplugAndReplug()
-{
-    ManualClock clock;
-    auto hid = VirtualHidBackend::createDefaultSet(&clock, {});
-    VirtualKeyboard* kb = hid->wiredKeyboard();
-    HidHandle* old = hid->openPath(kb->commandPath());
-    QVERIFY(old);
-
-    kb->unplug();
-    QVERIFY(!kb->isPlugged());
-    QCOMPARE(hid->enumerate(0x3151, 0x502F).size(), 0);
-    QCOMPARE(hid->enumerate(0x3151, 0).size(), 1); // the wireless one stays
-    QVERIFY(!hid->openPath(kb->commandPath()));
-    QCOMPARE(featureSend(*hid, old, wired(hex("8F"))), -1);
-    int result = 0;
-    featureGet(*hid, old, &result);
-    QCOMPARE(result, -1);
-
-    kb->replug();
-    QCOMPARE(hid->enumerate(0x3151, 0x502F).size(), 2);
-    QCOMPARE(featureSend(*hid, old, wired(hex("8F"))), -1); // a handle from before stays dead
-    HidHandle* fresh = hid->openPath(kb->commandPath());
-    QVERIFY(fresh);
-    QCOMPARE(featureSend(*hid, fresh, wired(hex("8F"))), 65);
-    QCOMPARE(hid->openHandleCount(), 2);
-    hid->close(old);
-    QCOMPARE(hid->openHandleCount(), 1);
-}
-
-void TestSimulator::droppedReplies_data()
+void TestSimulator::transports_data()
 {
     QTest::addColumn<bool>("isWireless");
     QTest::newRow("wired") << false;
     QTest::newRow("wireless") << true;
 }
 
-void TestSimulator::droppedReplies()
+void TestSimulator::transports()
 {
     QFETCH(bool, isWireless);
-    ManualClock clock;
-    auto hid = VirtualHidBackend::createDefaultSet(&clock, {});
-    VirtualKeyboard* kb = isWireless ? hid->wirelessKeyboard() : hid->wiredKeyboard();
-    HidHandle* h = hid->openPath(kb->commandPath());
-    kb->dropNextReplies(2);
+    Link link(isWireless);
+    QVERIFY(link.h);
+    const int full = isWireless ? 66 : 65;
+    const QByteArray prefix = isWireless ? hex("06 55") : hex("00");
 
-    auto ask = [&](const QByteArray& logical, int* result) {
-        if (isWireless) {
-            writeReport(*hid, h, wireless(logical));
-            return readReport(*hid, h, 400, result).mid(2);
-        }
-        featureSend(*hid, h, wired(logical));
-        return featureGet(*hid, h, result).mid(1);
-    };
+    QCOMPARE(link.send(hex("8F")), full);
     int result = 0;
-    for (int i = 0; i < 2; ++i) {
-        const qint64 before = clock.elapsedMs();
-        ask(hex("86"), &result);
-        QCOMPARE(result, isWireless ? 0 : -1);
-        QCOMPARE(clock.elapsedMs() - before, qint64(isWireless ? 400 : 0));
+    const QByteArray reply = link.take(&result);
+    QCOMPARE(result, full);
+    QCOMPARE(reply, prefix + link.kb->model().infoBlock());
+    QCOMPARE(reply.mid(prefix.size(), 9), hex("8F F7 0A 00 00 00 00 00 03"));
+    QCOMPARE(link.kb->model().receivedFrames().at(0).left(8), hex("8F 00 00 00 00 00 00 70"));
+
+    // Asked again with no command: the wired feature buffer gives the same reply; the wireless
+    // queue is empty, and the read waits out its timeout on the clock.
+    const qint64 before = link.clock.elapsedMs();
+    QCOMPARE(link.take(&result), isWireless ? QByteArray() : reply);
+    QCOMPARE(link.clock.elapsedMs() - before, qint64(isWireless ? 400 : 0));
+
+    // Two commands before a read: the air queues both answers, the feature buffer keeps one.
+    link.send(hex("04 03"));
+    link.send(hex("84"));
+    QCOMPARE(link.take(&result).left(prefix.size() + 2),
+             prefix + hex(isWireless ? "04 03" : "84 03"));
+    QCOMPARE(link.take(&result).left(prefix.size() + 2), prefix + hex("84 03"));
+
+    // Each transport refuses the other's report, and the wired input interface takes none.
+    const QByteArray other = Frame::wrapWired(Frame::close(hex("8F")));
+    const auto* data = reinterpret_cast<const quint8*>(other.constData());
+    QCOMPARE(isWireless ? link.hid->sendFeatureReport(link.h, data, other.size())
+                        : link.hid->write(link.h, data, other.size()),
+             -1);
+    if (!isWireless) {
+        HidHandle* input = link.hid->openPath(link.kb->inputPath());
+        QCOMPARE(link.hid->sendFeatureReport(input, data, other.size()), -1);
     }
-    // The command still reached the firmware; the lost answers don't come later.
-    QCOMPARE(kb->model().receivedFrames().size(), 2);
-    QCOMPARE(ask(hex("84"), &result).left(2), hex("84 00"));
-    QVERIFY(result > 0);
+    link.hid->close(link.h);
+    QCOMPARE(link.send(hex("8F")), -1);
 }
 
-void TestSimulator::shortReplies_data()
+void TestSimulator::faults_data()
 {
     QTest::addColumn<bool>("isWireless");
-    QTest::addColumn<int>("length");
-    QTest::newRow("wired, 10") << false << 10;
-    QTest::newRow("wired, report id only") << false << 1;
-    QTest::newRow("wireless, 10") << true << 10;
-    QTest::newRow("wireless, prefix only") << true << 2;
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<int>("firstResult");
+    QTest::addColumn<QByteArray>("firstHead");
+    QTest::addColumn<QByteArray>("secondHead");
+
+    // Each row: the fault, then 86 sent and read, then 84 sent and read.
+    QTest::newRow("wired drop") << false << "drop" << -1 << QByteArray() << hex("00 84 00");
+    // The lost answer doesn't turn up later either.
+    QTest::newRow("wireless drop") << true << "drop" << 0 << QByteArray() << hex("06 55 84 00");
+    QTest::newRow("wired short") << false << "short" << 3 << hex("00 86 02") << hex("00 84 00");
+    QTest::newRow("wireless short")
+        << true << "short" << 3 << hex("06 55 86") << hex("06 55 84 00");
+    // After the stale report the real answer is still the one to 86.
+    QTest::newRow("wireless stale")
+        << true << "stale" << 66 << hex("06 77 00") << hex("06 55 86 02");
 }
 
-void TestSimulator::shortReplies()
+void TestSimulator::faults()
 {
     QFETCH(bool, isWireless);
-    QFETCH(int, length);
-    ManualClock clock;
-    auto hid = VirtualHidBackend::createDefaultSet(&clock, {});
-    VirtualKeyboard* kb = isWireless ? hid->wirelessKeyboard() : hid->wiredKeyboard();
-    HidHandle* h = hid->openPath(kb->commandPath());
-    kb->shortNextReply(length);
+    QFETCH(QString, fault);
+    QFETCH(int, firstResult);
+    QFETCH(QByteArray, firstHead);
+    QFETCH(QByteArray, secondHead);
+
+    Link link(isWireless);
+    if (fault == "drop")
+        link.kb->dropNextReplies(1);
+    else if (fault == "short")
+        link.kb->shortNextReply(3);
+    else
+        link.kb->staleReportNext();
 
     int result = 0;
-    QByteArray first;
-    QByteArray second;
-    if (isWireless) {
-        writeReport(*hid, h, wireless(hex("8F")));
-        writeReport(*hid, h, wireless(hex("8F")));
-        first = readReport(*hid, h, 400, &result);
-        QCOMPARE(result, length);
-        second = readReport(*hid, h, 400, &result);
-    } else {
-        featureSend(*hid, h, wired(hex("8F")));
-        first = featureGet(*hid, h, &result);
-        QCOMPARE(result, length);
-        second = featureGet(*hid, h, &result);
-    }
-    QCOMPARE(result, isWireless ? 66 : 65); // only one reply is cut
-    QCOMPARE(first, second.left(length));
+    link.send(hex("86"));
+    QCOMPARE(link.take(&result).left(firstHead.size()), firstHead);
+    QCOMPARE(result, firstResult);
+    link.send(hex("84"));
+    QCOMPARE(link.take(&result).left(secondHead.size()), secondHead);
+    QCOMPARE(result, isWireless ? 66 : 65);
+    QCOMPARE(link.kb->model().receivedFrames().size(), 2);
 }
 
-void TestSimulator::staleReport()
+void TestSimulator::unplugAndReplug()
 {
-    ManualClock clock;
-    VirtualHidBackend hid(&clock);
-    VirtualKeyboard* kb = hid.addWirelessKeyboard(0x0AF7);
-    HidHandle* h = hid.openPath(kb->commandPath());
-    writeReport(hid, h, wireless(hex("8F")));
-    kb->staleReportNext();
+    Link link(false);
+    VirtualKeyboard* kb = link.kb;
+    VirtualHidBackend& hid = *link.hid;
+    HidHandle* input = hid.openPath(kb->inputPath());
 
+    kb->unplug();
+    QVERIFY(!kb->isPlugged());
+    QCOMPARE(hid.enumerate(0x3151, 0x502F).size(), 0);
+    QCOMPARE(hid.enumerate(0x3151, 0).size(), 1); // the wireless one stays
+    QVERIFY(!hid.openPath(kb->commandPath()));
+    QCOMPARE(link.send(hex("8F")), -1);
     int result = 0;
-    QCOMPARE(readReport(hid, h, 400, &result).left(2), hex("06 77"));
-    QCOMPARE(result, 66);
-    QCOMPARE(readReport(hid, h, 400, &result).left(4), hex("06 55 8F F7"));
+    link.take(&result);
+    QCOMPARE(result, -1);
+    quint8 buffer[64] = {};
+    QCOMPARE(hid.read(input, buffer, 64), -1);
 
-    // The protocol's reply taker skips the stale report by itself.
-    writeReport(hid, h, wireless(hex("86")));
-    kb->staleReportNext();
-    QByteArray reply;
-    QVERIFY(Frame::takeReplyWireless(hid, h, &reply));
-    QCOMPARE(reply.left(2), hex("86 02"));
+    kb->replug();
+    QCOMPARE(hid.enumerate(0x3151, 0x502F).size(), 2);
+    QCOMPARE(link.send(hex("8F")), -1); // a handle from before stays dead
+    HidHandle* fresh = hid.openPath(kb->commandPath());
+    QVERIFY(fresh);
+    link.take(&result, fresh);
+    QCOMPARE(result, 65);
+    QCOMPARE(hid.openHandleCount(), 3);
+    hid.close(link.h);
+    hid.close(input);
+    QCOMPARE(hid.openHandleCount(), 1);
 }
 
 void TestSimulator::keyTestStream()
 {
-    ManualClock clock;
-    VirtualHidBackend hid(&clock);
-    VirtualKeyboard* kb = hid.addWiredKeyboard();
-    HidHandle* input = hid.openPath(kb->inputPath());
-    HidHandle* command = hid.openPath(kb->commandPath());
+    Link link(false);
+    VirtualHidBackend& hid = *link.hid;
+    HidHandle* input = hid.openPath(link.kb->inputPath());
     hid.setNonblocking(input, true);
     quint8 buffer[64] = {};
     QCOMPARE(hid.read(input, buffer, 64), 0); // no test, no stream
 
-    featureSend(hid, command, wired(hex("1B 01")));
-    QVERIFY(kb->model().keyTestOn());
+    link.send(hex("1B 01"));
+    QVERIFY(link.kb->model().keyTestOn());
     quint16 deepest = 0;
     quint16 shallowest = 0xFFFF;
     int reports = 0;
     for (int step = 0; step < 200; ++step) {
         for (int poll = 0; poll < 3; ++poll) { // polled faster than the stream runs
-            const int n = hid.read(input, buffer, 64);
-            if (n <= 0) continue;
+            if (hid.read(input, buffer, 64) <= 0) continue;
             ++reports;
             QCOMPARE(buffer[0], quint8(0x05));
             QCOMPARE(buffer[1], quint8(0x1B));
@@ -643,14 +580,14 @@ void TestSimulator::keyTestStream()
             deepest = qMax(deepest, travel);
             shallowest = qMin(shallowest, travel);
         }
-        clock.advance(10);
+        link.clock.advance(10);
     }
     QCOMPARE(reports, 100); // one per 20 ms over 2 s
     QVERIFY(deepest >= 700 && deepest <= 740);
     QVERIFY(shallowest < 50);
 
-    featureSend(hid, command, wired(hex("1B 00")));
-    clock.advance(100);
+    link.send(hex("1B 00"));
+    link.clock.advance(100);
     QCOMPARE(hid.read(input, buffer, 64), 0);
 }
 
