@@ -15,7 +15,7 @@ int main(int argc, char* argv[])
     CliOptions options;
     QString error;
     if (!CliOptions::parse(app.arguments().mid(1), &options, &error)) {
-        err << "orbehub-cli: " << error << "\n(orbehub-cli --help shows the usage)" << Qt::endl;
+        err << "orbehub-cli: " << error << " (see orbehub-cli --help)" << Qt::endl;
         return CliSession::BadUsage;
     }
     if (options.help) {

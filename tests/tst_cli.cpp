@@ -1,0 +1,282 @@
+#include "CallRegistry.h"
+#include "CliOptions.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+// Runs the built tool against the virtual keyboards and checks what it prints.
+class TestCli : public QObject
+{
+    Q_OBJECT
+
+    struct Run
+    {
+        int status = -1;
+        QByteArray out;
+        QByteArray err;
+    };
+
+    static Run run(const QStringList& args)
+    {
+        QProcess process;
+        process.start(QStringLiteral(ORBEHUB_CLI), args);
+        Run r;
+        if (!process.waitForFinished(60000)) {
+            process.kill();
+            process.waitForFinished();
+            return r;
+        }
+        r.status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+        r.out = process.readAllStandardOutput();
+        r.err = process.readAllStandardError();
+        return r;
+    }
+
+private slots:
+    void parseArguments_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<QString>("summary"); // or the error's beginning
+
+        QTest::newRow("info with options")
+            << QStringList{"--simulate", "--wireless", "--sim-version", "0x500",
+                           "--sim-id",   "42",         "info"}
+            << true << "info sim wireless 500 42";
+        QTest::newRow("vid and pid in hex and decimal")
+            << QStringList{"--vid", "0x3151", "--pid", "20527", "dump"} << true << "dump 3151:502F";
+        QTest::newRow("calls split at --")
+            << QStringList{"call", "DoSetProfile", "2",      "--",  "DoReadAll",
+                           "--",   "DoSendHex",    "E50001", "true"}
+            << true << "call DoSetProfile(2) DoReadAll() DoSendHex(E50001,1)";
+        QTest::newRow("send command") << QStringList{"call", "DoSendCommand", "0x84", "1", "0"}
+                                      << true << "call DoSendCommand(132,1,0)";
+        QTest::newRow("no command") << QStringList{"--simulate"} << false << "a command";
+        QTest::newRow("unknown command") << QStringList{"read"} << false << "unknown command";
+        QTest::newRow("unknown option")
+            << QStringList{"--fast", "info"} << false << "unknown option";
+        QTest::newRow("option value missing") << QStringList{"--vid"} << false << "--vid needs";
+        QTest::newRow("vid too large")
+            << QStringList{"--vid", "0x10000", "info"} << false << "--vid:";
+        QTest::newRow("unknown operation")
+            << QStringList{"call", "DoFly"} << false << "call: unknown operation";
+        QTest::newRow("too few arguments") << QStringList{"call", "DoSendCommand", "1"} << false
+                                           << "call: usage: DoSendCommand u8 int bool";
+        QTest::newRow("empty group")
+            << QStringList{"call", "DoReadAll", "--"} << false << "call: an operation name";
+        QTest::newRow("u8 out of range") << QStringList{"call", "DoSetProfile", "256"} << false
+                                         << "call: DoSetProfile: \"256\" is not a u8";
+        QTest::newRow("odd hex") << QStringList{"call", "DoSendHex", "E5001", "0"} << false
+                                 << "call: DoSendHex:";
+        QTest::newRow("blank in hex")
+            << QStringList{"call", "DoSendHex", "E5 00", "0"} << false << "call: DoSendHex:";
+        QTest::newRow("flag not 0 or 1")
+            << QStringList{"call", "DoSendHex", "E500", "2"} << false << "call: DoSendHex:";
+    }
+    void parseArguments()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(bool, ok);
+        QFETCH(QString, summary);
+
+        CliOptions o;
+        QString error;
+        QCOMPARE(CliOptions::parse(args, &o, &error), ok);
+        if (!ok) {
+            QVERIFY2(error.startsWith(summary), qPrintable(error));
+            return;
+        }
+        QString s;
+        switch (o.command) {
+        case CliOptions::Command::Info:
+            s = "info";
+            break;
+        case CliOptions::Command::Dump:
+            s = "dump";
+            break;
+        case CliOptions::Command::Call:
+            s = "call";
+            break;
+        }
+        if (o.simulate)
+            s += QString(" sim%1 %2 %3")
+                     .arg(o.wireless ? " wireless" : "")
+                     .arg(o.simFirmwareVersion, 0, 16)
+                     .arg(o.simDeviceId);
+        if (o.vid && o.pid) s += QString::asprintf(" %04X:%04X", *o.vid, *o.pid);
+        for (const PlannedCall& c : o.calls) {
+            QStringList a;
+            for (int i = 0; i < c.args.size(); ++i)
+                a.append(c.operation->args[i] == ArgKind::Bytes
+                             ? QString::fromLatin1(c.args[i].bytes.toHex().toUpper())
+                             : QString::number(c.args[i].number));
+            s += QString(" %1(%2)").arg(c.operation->name, a.join(','));
+        }
+        QCOMPARE(s, summary);
+    }
+
+    void argumentKinds_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<quint64>("number");
+        QTest::addColumn<QByteArray>("bytes");
+        const int u16 = int(ArgKind::U16), u32 = int(ArgKind::U32), key = int(ArgKind::KeyEntry),
+                  colour = int(ArgKind::Colour), integer = int(ArgKind::Int);
+        QTest::newRow("u16 hex") << u16 << "0xFFFF" << true << quint64(0xFFFF) << QByteArray();
+        QTest::newRow("u16 too big") << u16 << "65536" << false << quint64(0) << QByteArray();
+        QTest::newRow("u32 upper X")
+            << u32 << "0XDEADBEEF" << true << quint64(0xDEADBEEF) << QByteArray();
+        QTest::newRow("negative") << integer << "-1" << false << quint64(0) << QByteArray();
+        QTest::newRow("not a number") << integer << "12ab" << false << quint64(0) << QByteArray();
+        QTest::newRow("key entry")
+            << key << "02000400" << true << quint64(0) << QByteArray::fromHex("02000400");
+        QTest::newRow("key entry short") << key << "020004" << false << quint64(0) << QByteArray();
+        QTest::newRow("colour") << colour << "#6329B6" << true << quint64(0x6329B6)
+                                << QByteArray::fromHex("6329B6");
+        QTest::newRow("colour without #")
+            << colour << "6329B6" << false << quint64(0) << QByteArray();
+        QTest::newRow("colour not hex")
+            << colour << "#6329BG" << false << quint64(0) << QByteArray();
+    }
+    void argumentKinds()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, text);
+        QFETCH(bool, ok);
+        QFETCH(quint64, number);
+        QFETCH(QByteArray, bytes);
+        CallArg arg;
+        QString error;
+        QCOMPARE(CallRegistry::parseArg(ArgKind(kind), text, &arg, &error), ok);
+        if (!ok) {
+            QVERIFY(error.contains(text));
+            return;
+        }
+        QCOMPARE(arg.number, number);
+        QCOMPARE(arg.bytes, bytes);
+    }
+
+    void info_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("version");
+        QTest::addColumn<QString>("versionText");
+        QTest::newRow("wired default") << QStringList{} << "0x300"
+                                       << "Ver:0x300 Id:2807[AF7]";
+        QTest::newRow("wired, other firmware")
+            << QStringList{"--sim-version", "0x500", "--sim-id", "0x123"} << "0x500"
+            << "Ver:0x500 Id:291[123]";
+        QTest::newRow("wireless") << QStringList{"--wireless", "--sim-version", "1023"} << "0x3FF"
+                                  << "Ver:0x3FF Id:2807[AF7]";
+    }
+    void info()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, version);
+        QFETCH(QString, versionText);
+        const Run r = run(QStringList{"--simulate"} + options + QStringList{"info"});
+        QCOMPARE(r.status, 0);
+        const QString out = QString::fromUtf8(r.out);
+        QVERIFY2(out.contains("firmware version: " + version + "\n"), qPrintable(out));
+        QVERIFY2(out.contains("version text: " + versionText + "\n"), qPrintable(out));
+    }
+
+    void dumpPrintsTheWholeCache()
+    {
+        const Run r = run({"--simulate", "--timing", "dump"});
+        QCOMPARE(r.status, 0);
+        QJsonParseError error;
+        const QJsonObject cache = QJsonDocument::fromJson(r.out, &error).object();
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        QCOMPARE(cache.value("firmwareVersion").toInt(), 0x300);
+        QCOMPARE(cache.value("deviceId").toInt(), 0xAF7);
+        QCOMPARE(cache.value("currentProfile").toInt(), 0);
+        QCOMPARE(cache.value("keyMatrix").toArray().at(0).toArray().size(), 128);
+        QCOMPARE(cache.value("keyMatrix").toArray().at(3).toArray().size(), 128);
+        QCOMPARE(cache.value("fnMatrix").toArray().at(0).toArray().size(), 160);
+        const QJsonObject tables = cache.value("magnetTables").toObject();
+        QCOMPARE(tables.size(), 15);
+        for (const QString& name : tables.keys())
+            QCOMPARE(tables.value(name).toArray().size(), 128);
+        QCOMPARE(cache.value("sleepTimes").toArray().size(), 4);
+        QVERIFY(!cache.value("kbOptions").toString().isEmpty());
+        QVERIFY(!cache.value("ledParams").toObject().isEmpty());
+        QVERIFY2(QRegularExpression("^read sequence: \\d+ ms$", QRegularExpression::MultilineOption)
+                     .match(QString::fromUtf8(r.err))
+                     .hasMatch(),
+                 r.err.constData());
+    }
+
+    void callSelectsAProfileAndTracesTheWire()
+    {
+        QTemporaryDir dir;
+        const QString trace = dir.filePath("trace.txt");
+        const Run r = run({"--simulate", "--trace", trace, "call", "DoSetProfile", "2"});
+        QCOMPARE(r.status, 0);
+        const QJsonObject cache = QJsonDocument::fromJson(r.out).object();
+        QCOMPARE(cache.value("currentProfile").toInt(), 2);
+
+        QFile file(trace);
+        QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
+        const QStringList lines =
+            QString::fromLatin1(file.readAll()).split('\n', Qt::SkipEmptyParts);
+        QVERIFY(!lines.isEmpty());
+        const QRegularExpression format("^(\\d+) ([<>]) (feature|write|read)((?: [0-9A-F]{2})*)$");
+        QVERIFY2(lines.first().section(' ', 1).startsWith("> feature 00 1B 01"),
+                 qPrintable(lines.first()));
+        qint64 last = 0;
+        int setProfile = -1;
+        int profileTwoReads = 0;
+        for (int i = 0; i < lines.size(); ++i) {
+            const auto m = format.match(lines.at(i));
+            QVERIFY2(m.hasMatch(), qPrintable(lines.at(i)));
+            QVERIFY(m.captured(1).toLongLong() >= last); // times never go back
+            last = m.captured(1).toLongLong();
+            if (m.captured(2) == ">" && m.captured(4).startsWith(" 00 04 02")) setProfile = i;
+            if (m.captured(2) == ">" && m.captured(4).startsWith(" 00 8A 02 FF")) {
+                QVERIFY(setProfile >= 0 && setProfile < i);
+                ++profileTwoReads;
+            }
+        }
+        // The first sequence reads profile 0; after the call, the four layers of profile 2.
+        QCOMPARE(profileTwoReads, 4 * 8);
+    }
+
+    void failuresExitWithAReason_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("absent vid") << QStringList{"--simulate", "--vid", "0x1234", "info"} << 3
+                                    << "no keyboard 1234:502F found";
+        QTest::newRow("wireless pid without its interface")
+            << QStringList{"--simulate", "--wireless", "--pid", "0x502F", "info"} << 3
+            << "no wireless keyboard 3151:502F found";
+        QTest::newRow("bad call") << QStringList{"--simulate", "call", "DoSetProfile"} << 2
+                                  << "call: usage: DoSetProfile u8";
+        QTest::newRow("trace not writable")
+            << QStringList{"--simulate", "--trace", "/nonexistent/dir/t.txt", "info"} << 1
+            << "cannot write the trace file";
+    }
+    void failuresExitWithAReason()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(int, status);
+        QFETCH(QString, message);
+        const Run r = run(args);
+        QCOMPARE(r.status, status);
+        QVERIFY(r.out.isEmpty());
+        const QString err = QString::fromUtf8(r.err);
+        QVERIFY2(err.startsWith("orbehub-cli: " + message), qPrintable(err));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCli)
+#include "tst_cli.moc"
