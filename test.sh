@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# The whole test suite from a fresh Debian 12 machine: installs what is missing, builds with
+# warnings as errors and runs every test.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+scripts/install-deps.sh
+
+jobs=$(nproc 2>/dev/null || echo 2)
+[ "$jobs" -gt 8 ] && jobs=8
+
+cmake -S . -B build -DCMAKE_BUILD_TYPE=Debug -DORBE_WERROR=ON
+cmake --build build -j"$jobs"
+ctest --test-dir build --output-on-failure -j"$jobs"
