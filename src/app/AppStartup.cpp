@@ -11,7 +11,6 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
-#include <cstring>
 
 namespace AppStartup {
 
