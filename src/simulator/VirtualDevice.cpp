@@ -9,17 +9,34 @@ VirtualDevice::~VirtualDevice() = default;
 
 void VirtualDevice::unplug()
 {
-    std::lock_guard guard(lock);
-    if (!plugged) return;
-    plugged = false;
-    ++generation;
-    onUnplugged();
+    {
+        std::lock_guard guard(lock);
+        if (!plugged) return;
+        plugged = false;
+        ++generation;
+        onUnplugged();
+    }
+    notifyPlug(false);
 }
 
 void VirtualDevice::replug()
 {
-    std::lock_guard guard(lock);
-    plugged = true;
+    {
+        std::lock_guard guard(lock);
+        if (plugged) return;
+        plugged = true;
+    }
+    notifyPlug(true);
+}
+
+void VirtualDevice::notifyPlug(bool nowPlugged)
+{
+    std::function<void(bool)> listener;
+    {
+        std::lock_guard guard(lock);
+        if (plugListener) listener = *plugListener;
+    }
+    if (listener) listener(nowPlugged);
 }
 
 bool VirtualDevice::isPlugged() const

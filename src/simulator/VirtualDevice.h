@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <cstddef>
+#include <functional>
 #include <mutex>
 
 class Clock;
@@ -20,6 +21,7 @@ public:
     VirtualDevice& operator=(const VirtualDevice&) = delete;
 
     // Gone from enumerate, opens fail, and handles opened before stay dead even after replug().
+    // Both tell the backend's plug listener, outside the lock.
     void unplug();
     void replug();
     bool isPlugged() const;
@@ -43,6 +45,9 @@ protected:
 
 private:
     friend class VirtualHidBackend;
+    void notifyPlug(bool nowPlugged);
+
     bool plugged = true;
     quint64 generation = 0; // bumped by unplug(); a handle is live while its generation matches
+    const std::function<void(bool)>* plugListener = nullptr; // the backend's
 };

@@ -2,6 +2,7 @@
 
 #include "Clock.h"
 #include "SimulatorLog.h"
+#include "VirtualDiscoverySet.h"
 
 #include <algorithm>
 
@@ -36,7 +37,20 @@ VirtualHidBackend::createDefaultSet(Clock* clock, const SimulatorOptions& option
     auto backend = std::make_unique<VirtualHidBackend>(clock);
     backend->addWiredKeyboard(options.deviceId, options.firmwareVersion);
     backend->addWirelessKeyboard(options.deviceId, options.firmwareVersion);
+    VirtualDiscoverySet::addTo(*backend, options);
     return backend;
+}
+
+void VirtualHidBackend::setPlugListener(std::function<void(bool)> listener)
+{
+    std::lock_guard guard(lock);
+    plugListener = std::move(listener);
+}
+
+void VirtualHidBackend::adopt(std::unique_ptr<VirtualDevice> device)
+{
+    device->plugListener = &plugListener;
+    devices.push_back(std::move(device));
 }
 
 VirtualKeyboard* VirtualHidBackend::addWiredKeyboard(quint32 id, quint16 version, quint16 vid,
@@ -66,7 +80,7 @@ VirtualKeyboard* VirtualHidBackend::addKeyboard(bool wireless,
     if (twins > 0) base += '.' + QByteArray::number(twins + 1);
     auto keyboard = std::make_unique<VirtualKeyboard>(lock, clock, wireless, identity, base);
     VirtualKeyboard* raw = keyboard.get();
-    devices.push_back(std::move(keyboard));
+    adopt(std::move(keyboard));
     keyboards.push_back(raw);
     qCDebug(lcSimulator) << "added" << (wireless ? "wireless" : "wired") << "keyboard"
                          << raw->commandPath();

@@ -3,6 +3,7 @@
 #include "HidBackend.h"
 #include "VirtualKeyboard.h"
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -15,6 +16,9 @@ struct SimulatorOptions
 {
     quint32 deviceId = 0x0AF7;
     quint16 firmwareVersion = 0x0300;
+    // Adds a keyboard that never answers the identity request: every discovery pass waits
+    // on it for as long as it is plugged in.
+    bool silentKeyboard = false;
 };
 
 // A HID backend whose devices are virtual. Every call takes one lock, so the discovery thread
@@ -31,7 +35,22 @@ public:
     VirtualKeyboard* addWirelessKeyboard(quint32 id = 0x0AF7, quint16 version = 0x0300,
                                          quint16 vid = 0x3151, quint16 pid = 0x5030);
 
-    // The set --simulate shows: one wired, one wireless keyboard.
+    // Any other virtual device: constructed as Device(lock, clock, args...).
+    template <class Device, class... Args> Device* add(Args&&... args)
+    {
+        std::lock_guard guard(lock);
+        auto device = std::make_unique<Device>(lock, clock, std::forward<Args>(args)...);
+        Device* raw = device.get();
+        adopt(std::move(device));
+        return raw;
+    }
+
+    // Called with true or false whenever a device is replugged or unplugged, on the thread
+    // that did it, outside the lock. --simulate hands this to the hot-plug notifier.
+    void setPlugListener(std::function<void(bool plugged)> listener);
+
+    // The set --simulate shows: one wired, one wireless keyboard, and the devices of every
+    // family and route the discovery pass knows (VirtualDiscoverySet).
     static std::unique_ptr<VirtualHidBackend> createDefaultSet(Clock* clock,
                                                                const SimulatorOptions& options);
 
@@ -53,6 +72,8 @@ public:
 
 private:
     VirtualKeyboard* addKeyboard(bool wireless, const VirtualKeyboard::Identity& identity);
+    // Takes the device into the list; lock held.
+    void adopt(std::unique_ptr<VirtualDevice> device);
     // The handle if it is open and its device is still the one it opened; lock held.
     VirtualHandle* liveHandle(HidHandle* handle) const;
 
@@ -61,4 +82,5 @@ private:
     std::vector<std::unique_ptr<VirtualDevice>> devices;
     std::vector<VirtualKeyboard*> keyboards;
     std::vector<std::unique_ptr<VirtualHandle>> handles;
+    std::function<void(bool)> plugListener;
 };
