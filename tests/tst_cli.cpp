@@ -249,6 +249,79 @@ private slots:
         QCOMPARE(profileTwoReads, 4 * 8);
     }
 
+    void callChainsOperationsAndDumpsWhatTheyWrote()
+    {
+        const QString picture = QString("AB").repeated(392);
+        const Run r = run({"--simulate",
+                           "call",
+                           "DoSetKey",
+                           "0x04",
+                           "00E00400",
+                           "1",
+                           "1",
+                           "--",
+                           "DoSetMagnetism",
+                           "0",
+                           "0x04",
+                           "300",
+                           "1",
+                           "--",
+                           "DoSetSleepTime",
+                           "10",
+                           "2",
+                           "--",
+                           "DoSetKbOption",
+                           "3",
+                           "4",
+                           "--",
+                           "DoSetMacro",
+                           "0x05",
+                           "2",
+                           "0",
+                           "7",
+                           "04B20432",
+                           "--",
+                           "DoWriteUserPic",
+                           "1",
+                           picture,
+                           "--",
+                           "DoReadAll"});
+        QCOMPARE(r.status, 0);
+        const QJsonObject cache = QJsonDocument::fromJson(r.out).object();
+        // Read back from the keyboard by the last read sequence.
+        QCOMPARE(cache.value("keyMatrix").toArray().at(1).toArray().at(9).toString(),
+                 QString("00E00400"));
+        QCOMPARE(
+            cache.value("magnetTables").toObject().value("00 actuation").toArray().at(9).toInt(),
+            300);
+        QCOMPARE(cache.value("sleepTimes").toArray().at(2).toInt(), 600);
+        QCOMPARE(cache.value("kbOptionValues").toObject().value("3").toInt(), 4);
+        // The macro's key entry on layer 0, its blob and the picture in the keyboard's slots.
+        QCOMPARE(cache.value("keyMatrix").toArray().at(0).toArray().at(40).toString(),
+                 QString("09000700"));
+        const QJsonObject keyboard = cache.value("virtualKeyboard").toObject();
+        QVERIFY(
+            keyboard.value("macros").toObject().value("7").toString().startsWith("020004B20432"));
+        QCOMPARE(keyboard.value("pictures").toObject().keys(), QStringList{"1"});
+        QVERIFY(keyboard.value("pictures").toObject().value("1").toString().startsWith("ABABAB"));
+    }
+
+    void callRejectsBadArguments_data()
+    {
+        QTest::addColumn<QStringList>("call");
+        QTest::newRow("entry too short") << QStringList{"DoSetKey", "4", "00E004", "0", "1"};
+        QTest::newRow("colour without #") << QStringList{"DoSetLedColor", "FF0000", "7"};
+        QTest::newRow("u8 overflow") << QStringList{"DoSetDebounce", "256"};
+        QTest::newRow("missing argument") << QStringList{"DoSetMagnetism", "0", "4", "300"};
+    }
+    void callRejectsBadArguments()
+    {
+        QFETCH(QStringList, call);
+        const Run r = run(QStringList{"--simulate", "call"} + call);
+        QCOMPARE(r.status, 2);
+        QCOMPARE(r.err.count('\n'), 1);
+    }
+
     void failuresExitWithAReason_data()
     {
         QTest::addColumn<QStringList>("args");

@@ -1,6 +1,8 @@
 #include "CacheJson.h"
 
 #include "DialogDeviceConnect.h"
+#include "MagnetTables.h"
+#include "NativeKeyboardModel.h"
 
 #include <QJsonArray>
 #include <QString>
@@ -8,32 +10,10 @@
 
 namespace {
 
-struct TableWidth
-{
-    quint8 table;
-    int width; // bytes per key
-};
-
-// Every magnetism table, in the order the read sequence fetches them.
-constexpr std::array<TableWidth, DialogDeviceConnect::kMagnetTables> kTableWidths{{
-    {0x00, 2},
-    {0x01, 2},
-    {0x02, 2},
-    {0x03, 2},
-    {0x04, 2},
-    {0x05, 1},
-    {0x06, 2},
-    {0x07, 1},
-    {0x08, 1},
-    {0x09, 1},
-    {0x0A, 4},
-    {0xFF, 2},
-    {0xFE, 2},
-    {0xFC, 1},
-    {0xFB, 1},
-}};
-
 constexpr int kKeyEntrySize = 4;
+constexpr int kMacroSlots = 50;
+// The two options of the option block that the hub uses: a switch and a choice of five.
+constexpr int kUsedOptions[] = {2, 3};
 constexpr int kIdentityVersionOffset = 7;
 
 QString hex(const QByteArray& bytes)
@@ -116,17 +96,41 @@ QJsonObject fromConnection(const DialogDeviceConnect& d)
     o.insert(QStringLiteral("keyMatrix"), keys);
     o.insert(QStringLiteral("fnMatrix"), fns);
 
+    QJsonObject options;
+    for (int index : kUsedOptions)
+        options.insert(QString::number(index), d.GetKbOption(index));
+    o.insert(QStringLiteral("kbOptionValues"), options);
+
     QJsonObject tables;
-    for (const TableWidth& t : kTableWidths) {
-        const int index = DialogDeviceConnect::magnetTableIndex(t.table);
-        tables.insert(QString::asprintf("%02X", t.table), values(d.GetMagnetTable(index), t.width));
+    for (const MagnetTables::Table& t : MagnetTables::kTables) {
+        const int index = MagnetTables::indexOf(t.number);
+        tables.insert(QString::asprintf("%02X %s", t.number, t.name),
+                      values(d.GetMagnetTable(index), t.width));
     }
     o.insert(QStringLiteral("magnetTables"), tables);
+    if (!d.GetUserPicture().isEmpty())
+        o.insert(QStringLiteral("userPicture"), hex(d.GetUserPicture()));
 
     o.insert(QStringLiteral("ledParams"),
              blocks(DialogDeviceConnect::kLedSlots, &DialogDeviceConnect::GetLedParams, d));
     o.insert(QStringLiteral("sideLedParams"),
              blocks(DialogDeviceConnect::kSideLedSlots, &DialogDeviceConnect::GetSideLedParams, d));
+    return o;
+}
+
+QJsonObject fromKeyboard(const NativeKeyboardModel& keyboard)
+{
+    QJsonObject pictures;
+    for (int slot = 0; !keyboard.picture(slot).isEmpty(); ++slot)
+        if (keyboard.picture(slot).count('\0') != keyboard.picture(slot).size())
+            pictures.insert(QString::number(slot), hex(keyboard.picture(slot)));
+    QJsonObject macros;
+    for (int id = 0; id < kMacroSlots; ++id)
+        if (!keyboard.macro(id).isEmpty())
+            macros.insert(QString::number(id), hex(keyboard.macro(id)));
+    QJsonObject o;
+    o.insert(QStringLiteral("pictures"), pictures);
+    o.insert(QStringLiteral("macros"), macros);
     return o;
 }
 

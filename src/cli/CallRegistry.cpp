@@ -20,6 +20,11 @@ bool flag(const CallArg& a)
     return a.number != 0;
 }
 
+const quint8* entry(const CallArg& a)
+{
+    return reinterpret_cast<const quint8*>(a.bytes.constData());
+}
+
 QString hexText(const CallArg& a)
 {
     return QString::fromLatin1(a.bytes.toHex());
@@ -36,6 +41,64 @@ constexpr CallOperation kOperations[] = {
     {"DoSendHex",
      {A::Bytes, A::Bool},
      [](D& d, const CallArgs& a) { d.DoSendHex(hexText(a[0]), flag(a[1])); }},
+    // Settings and lighting
+    {"DoSetReportRate", {A::U8}, [](D& d, const CallArgs& a) { d.DoSetReportRate(u8(a[0])); }},
+    {"DoSetDebounce", {A::U8}, [](D& d, const CallArgs& a) { d.DoSetDebounce(u8(a[0])); }},
+    {"DoSetLedOnOff", {A::Bool}, [](D& d, const CallArgs& a) { d.DoSetLedOnOff(flag(a[0])); }},
+    {"DoSetLedEffect",
+     {A::Int, A::U8},
+     [](D& d, const CallArgs& a) { d.DoSetLedEffect(int(a[0].number), u8(a[1])); }},
+    {"DoSetLedSpeed", {A::U8}, [](D& d, const CallArgs& a) { d.DoSetLedSpeed(u8(a[0])); }},
+    {"DoSetLedBrightness",
+     {A::Int},
+     [](D& d, const CallArgs& a) { d.DoSetLedBrightness(int(a[0].number)); }},
+    {"DoSetLedColor",
+     {A::Colour, A::Int},
+     [](D& d, const CallArgs& a) { d.DoSetLedColor(quint32(a[0].number), int(a[1].number)); }},
+    {"DoSetSideLed", {A::Bytes}, [](D& d, const CallArgs& a) { d.DoSetSideLed(a[0].bytes); }},
+    {"DoSetKbOption",
+     {A::Int, A::U8},
+     [](D& d, const CallArgs& a) { d.DoSetKbOption(int(a[0].number), u8(a[1])); }},
+    {"DoSetSleepTime",
+     {A::Int, A::Int},
+     [](D& d, const CallArgs& a) { d.DoSetSleepTime(int(a[0].number), int(a[1].number)); }},
+    // Key matrix and Fn layer
+    {"DoSetKey",
+     {A::U8, A::KeyEntry, A::U8, A::U8},
+     [](D& d, const CallArgs& a) { d.DoSetKey(u8(a[0]), entry(a[1]), u8(a[2]), u8(a[3])); }},
+    {"DoSetFn",
+     {A::U8, A::KeyEntry},
+     [](D& d, const CallArgs& a) { d.DoSetFn(u8(a[0]), entry(a[1])); }},
+    {"DoSetKeyCode",
+     {A::U8, A::Bool, A::U8},
+     [](D& d, const CallArgs& a) { d.DoSetKeyCode(u8(a[0]), flag(a[1]), u8(a[2])); }},
+    {"DoSetFnCode",
+     {A::U8, A::Bool},
+     [](D& d, const CallArgs& a) { d.DoSetFnCode(u8(a[0]), flag(a[1])); }},
+    {"DoResetKey", {A::U8}, [](D& d, const CallArgs& a) { d.DoResetKey(u8(a[0])); }},
+    // Magnetism, key test and calibration
+    {"DoSetMagnetism",
+     {A::U8, A::U8, A::U32, A::U8},
+     [](D& d, const CallArgs& a) {
+         d.DoSetMagnetism(u8(a[0]), u8(a[1]), quint32(a[2].number), u8(a[3]));
+     }},
+    {"DoSetKeyFlag",
+     {A::U8, A::Bool},
+     [](D& d, const CallArgs& a) { d.DoSetKeyFlag(u8(a[0]), flag(a[1])); }},
+    {"DoStartKeyTest", {}, [](D& d, const CallArgs&) { d.DoStartKeyTest(); }},
+    {"DoStopKeyTest", {}, [](D& d, const CallArgs&) { d.DoStopKeyTest(); }},
+    {"DoStartCalibration", {}, [](D& d, const CallArgs&) { d.DoStartCalibration(); }},
+    {"DoStopCalibration", {}, [](D& d, const CallArgs&) { d.DoStopCalibration(); }},
+    // Macros and user pictures
+    {"DoSetMacro",
+     {A::U8, A::U16, A::U8, A::U8, A::Bytes},
+     [](D& d, const CallArgs& a) {
+         d.DoSetMacro(u8(a[0]), quint16(a[1].number), u8(a[2]), u8(a[3]), a[4].bytes);
+     }},
+    {"DoWriteUserPic",
+     {A::U8, A::Bytes},
+     [](D& d, const CallArgs& a) { d.DoWriteUserPic(u8(a[0]), a[1].bytes); }},
+    {"DoReadUserPic", {A::U8}, [](D& d, const CallArgs& a) { d.DoReadUserPic(u8(a[0])); }},
 };
 
 bool parseHex(const QString& text, QByteArray* bytes)

@@ -63,8 +63,9 @@ bool CliSession::openBackend()
         sim.deviceId = options.simDeviceId;
         sim.firmwareVersion = options.simFirmwareVersion;
         auto virtualSet = VirtualHidBackend::createDefaultSet(clock, sim);
-        const VirtualKeyboard* keyboard =
+        VirtualKeyboard* keyboard =
             options.wireless ? virtualSet->wirelessKeyboard() : virtualSet->wiredKeyboard();
+        simulated = keyboard;
         vid = options.vid.value_or(keyboard->vendorId());
         pid = options.pid.value_or(keyboard->productId());
         backend = std::move(virtualSet);
@@ -207,7 +208,11 @@ void CliSession::printInfo(int layer)
 
 void CliSession::printCache()
 {
-    out << QString::fromUtf8(QJsonDocument(CacheJson::fromConnection(*device)).toJson());
+    QJsonObject cache = CacheJson::fromConnection(*device);
+    if (simulated)
+        cache.insert(QStringLiteral("virtualKeyboard"),
+                     CacheJson::fromKeyboard(simulated->model()));
+    out << QString::fromUtf8(QJsonDocument(cache).toJson());
     out.flush();
 }
 

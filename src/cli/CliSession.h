@@ -8,6 +8,7 @@
 class Clock;
 class ClockTimer;
 class DialogDeviceConnect;
+class VirtualKeyboard;
 class HidBackend;
 class QFile;
 class QTextStream;
@@ -60,6 +61,7 @@ private:
     std::unique_ptr<HidBackend> tracer;
     HidBackend* hid = nullptr;
     std::unique_ptr<DialogDeviceConnect> device;
+    VirtualKeyboard* simulated = nullptr; // the keyboard in use with --simulate
     std::unique_ptr<ClockTimer> idlePoll;
     std::unique_ptr<ClockTimer> deadline;
 

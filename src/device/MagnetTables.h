@@ -10,34 +10,34 @@ namespace MagnetTables {
 struct Table
 {
     std::uint8_t number;
-    int width; // bytes per value
-    int pages; // 64-byte pages: 128 * width / 64
+    int width;        // bytes per value
+    int pages;        // 64-byte pages: 128 * width / 64
+    const char* name; // for dumps and logs
 };
 
 constexpr int kValues = 128;
 
 constexpr std::array<Table, 15> kTables{{
-    {0x00, 2, 4}, // actuation travel, 0.005 mm
-    {0x01, 2, 4}, // release travel
-    {0x02, 2, 4}, // rapid trigger, press
-    {0x03, 2, 4}, // rapid trigger, release
-    {0x04, 2, 4}, // dynamic keystroke travel
-    {0x05, 1, 2}, // mod-tap hold time
-    {0x06, 2, 4}, // top dead zone
-    {0x07, 1, 2}, // key mode, bit 7 the key flag
-    {0x08, 1, 2}, // dynamic keystroke action word
-    {0x09, 1, 2}, // SnapKey partner position
-    {0x0A, 4, 8},
-    {0xFF, 2, 4},
-    {0xFE, 2, 4}, // live sensor reading
-    {0xFC, 1, 2}, // switch type
-    {0xFB, 1, 2}, // bottom dead zone
+    {0x00, 2, 4, "actuation"},              // actuation travel, 0.005 mm
+    {0x01, 2, 4, "release"},                // release travel
+    {0x02, 2, 4, "rapidTriggerPress"},      // rapid trigger, press
+    {0x03, 2, 4, "rapidTriggerRelease"},    // rapid trigger, release
+    {0x04, 2, 4, "dynamicKeystrokeTravel"}, // dynamic keystroke travel
+    {0x05, 1, 2, "modTapHoldTime"},         // mod-tap hold time
+    {0x06, 2, 4, "topDeadZone"},            // top dead zone
+    {0x07, 1, 2, "keyMode"},                // key mode, bit 7 the key flag
+    {0x08, 1, 2, "dynamicKeystrokeAction"}, // dynamic keystroke action word
+    {0x09, 1, 2, "snapKeyPartner"},         // SnapKey partner position
+    {0x0A, 4, 8, "table0A"},
+    {0xFF, 2, 4, "tableFF"},
+    {0xFE, 2, 4, "sensorReading"},  // live sensor reading
+    {0xFC, 1, 2, "switchType"},     // switch type
+    {0xFB, 1, 2, "bottomDeadZone"}, // bottom dead zone
 }};
 
 static_assert([] {
     for (const Table& t : kTables)
-        if (t.pages * 64 != kValues * t.width)
-            return false;
+        if (t.pages * 64 != kValues * t.width) return false;
     return true;
 }());
 
@@ -45,8 +45,7 @@ static_assert([] {
 constexpr int indexOf(std::uint8_t number)
 {
     for (int i = 0; i < int(kTables.size()); ++i)
-        if (kTables[i].number == number)
-            return i;
+        if (kTables[i].number == number) return i;
     return -1;
 }
 
