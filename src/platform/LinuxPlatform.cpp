@@ -25,7 +25,9 @@ LinuxPlatform::LinuxPlatform(const QString& organisation) : organisation(organis
 
 LinuxPlatform::~LinuxPlatform()
 {
-    qDeleteAll(foreignWindows);
+    // The process-wide platform can outlive the application object; a window must not.
+    if (qGuiApp)
+        qDeleteAll(foreignWindows);
 }
 
 void LinuxPlatform::tellOnce(const char* what)

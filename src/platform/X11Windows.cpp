@@ -43,6 +43,21 @@ xcb_window_t rootWindow(xcb_connection_t* c)
     return screens.rem > 0 ? screens.data->root : xcb_window_t(XCB_WINDOW_NONE);
 }
 
+// The window manager's list of managed windows; without a window manager, the root's children.
+QList<xcb_window_t> topLevelWindows(xcb_connection_t* c, xcb_atom_t clientList)
+{
+    const xcb_window_t root = rootWindow(c);
+    const QByteArray list = property(c, root, clientList, XCB_ATOM_WINDOW);
+    QList<xcb_window_t> windows(list.size() / qsizetype(sizeof(xcb_window_t)));
+    std::memcpy(windows.data(), list.constData(), windows.size() * sizeof(xcb_window_t));
+    if (!windows.isEmpty()) return windows;
+    const Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(c, xcb_query_tree(c, root), nullptr));
+    if (!tree) return {};
+    const xcb_window_t* children = xcb_query_tree_children(tree.get());
+    return QList<xcb_window_t>(children, children + xcb_query_tree_children_length(tree.get()));
+}
+
 } // namespace
 
 bool X11Windows::available()
@@ -54,14 +69,10 @@ quintptr X11Windows::find(const QString& title, const QString& className)
 {
     xcb_connection_t* c = connection();
     if (!c) return 0;
-    const xcb_atom_t clientList = atom(c, "_NET_CLIENT_LIST");
     const xcb_atom_t wmName = atom(c, "_NET_WM_NAME");
     const xcb_atom_t utf8 = atom(c, "UTF8_STRING");
-    const QByteArray list = property(c, rootWindow(c), clientList, XCB_ATOM_WINDOW);
-    const auto* windows = reinterpret_cast<const xcb_window_t*>(list.constData());
-    const qsizetype count = list.size() / qsizetype(sizeof(xcb_window_t));
-    for (qsizetype i = 0; i < count; ++i) {
-        const xcb_window_t window = windows[i];
+    const QList<xcb_window_t> windows = topLevelWindows(c, atom(c, "_NET_CLIENT_LIST"));
+    for (const xcb_window_t window : windows) {
         QByteArray name = property(c, window, wmName, utf8);
         if (name.isEmpty()) name = property(c, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING);
         if (QString::fromUtf8(name) != title) continue;
