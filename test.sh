@@ -11,4 +11,6 @@ jobs=$(nproc 2>/dev/null || echo 2)
 
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Debug -DORBE_WERROR=ON
 cmake --build build -j"$jobs"
+# The Windows implementation of the platform layer, checked with the MinGW cross compiler.
+tools/check-windows-syntax.sh
 ctest --test-dir build --output-on-failure -j"$jobs"

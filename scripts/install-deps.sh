@@ -7,6 +7,7 @@ packages=(
   build-essential cmake pkg-config
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-qpa-plugins
   libhidapi-dev libgl-dev libpulse-dev libudev-dev
+  g++-mingw-w64-x86-64-posix
 )
 
 missing=()
