@@ -113,7 +113,10 @@ void TestCatalogue::shippedBrandCatalogues()
             QVERIFY2(id.isDouble() && id.toInt() > 0, key);
             QVERIFY2(!ids.contains(id.toInt()), qPrintable(QString::number(id.toInt(), 16)));
             ids.insert(id.toInt());
-            QVERIFY(!element.toObject().value(QLatin1String("displayName")).toString().trimmed()
+            QVERIFY(!element.toObject()
+                         .value(QLatin1String("displayName"))
+                         .toString()
+                         .trimmed()
                          .isEmpty());
         }
     }
@@ -194,8 +197,8 @@ void TestCatalogue::lookupName_data()
     QTest::newRow("any other selector is the second brand") << four << 7 << 2807u << "HE75" << 0;
     QTest::newRow("malformed") << QByteArray("{\"keyboard\": [ {\"id\": 2807,") << 0 << 2807u << ""
                                << 255;
-    QTest::newRow("element without id") << QByteArray(R"({"keyboard": [{"displayName": "X"}]})")
-                                        << 0 << 1u << "" << 255;
+    QTest::newRow("element without id")
+        << QByteArray(R"({"keyboard": [{"displayName": "X"}]})") << 0 << 1u << "" << 255;
 }
 
 void TestCatalogue::lookupName()
@@ -262,14 +265,15 @@ void TestCatalogue::lookupCustom_data()
     QTest::addColumn<int>("connection");
 
     const QByteArray marker = "////CustomDeviceList////\n";
-    QTest::newRow("plain") << marker + "0x1101, 0x38EE, 0x0030, 0x21, 1, 2, WS 65\n" << 0x21ull
-                           << 0x1101ull << "WS 65" << 1 << 2;
+    QTest::newRow("plain") << marker + "0x1101, 0x38EE, 0x0030, 0x21, 1, 2, WS 65\n"
+                           << 0x21ull << 0x1101ull << "WS 65" << 1 << 2;
     QTest::newRow("braces, quotes and blanks")
-        << marker + "  {\"0x1101\" , \"0x38EE\",\"0x0030\" ,  \"0x21\", \"1\", \"2\", \" WS 65 \"},\n"
+        << marker +
+               "  {\"0x1101\" , \"0x38EE\",\"0x0030\" ,  \"0x21\", \"1\", \"2\", \" WS 65 \"},\n"
         << 0x21ull << 0x1101ull << "WS 65" << 1 << 2;
     QTest::newRow("hex either case and decimal alike")
-        << marker + "4353, 0X38ee, 48, 0x1a, 0, 1, Mixed\n" << 26ull << 0x1101ull << "Mixed" << 0
-        << 1;
+        << marker + "4353, 0X38ee, 48, 0x1a, 0, 1, Mixed\n"
+        << 26ull << 0x1101ull << "Mixed" << 0 << 1;
     QTest::newRow("no marker: nothing is read")
         << QByteArray("0x1101, 0x38EE, 0x0030, 0x21, 1, 2, WS 65\n") << 0x21ull << 0ull << "" << -1
         << -1;
@@ -284,19 +288,19 @@ void TestCatalogue::lookupCustom_data()
                                                   "2, 0x38EE, 0x30, 0x21, 1, 1, Second\n"
                                       << 0x21ull << 1ull << "First" << 0 << 0;
     QTest::newRow("five fields are skipped")
-        << marker + "1, 0x38EE, 0x30, 0x21, 0\n2, 0x38EE, 0x30, 0x21, 3, 1, Second\n" << 0x21ull
-        << 2ull << "Second" << 3 << 1;
-    QTest::newRow("six fields: an empty name")
-        << marker + "0x1101, 0x38EE, 0x0030, 0x21, 1, 2\n" << 0x21ull << 0x1101ull << "" << 1 << 2;
+        << marker + "1, 0x38EE, 0x30, 0x21, 0\n2, 0x38EE, 0x30, 0x21, 3, 1, Second\n"
+        << 0x21ull << 2ull << "Second" << 3 << 1;
+    QTest::newRow("six fields: an empty name") << marker + "0x1101, 0x38EE, 0x0030, 0x21, 1, 2\n"
+                                               << 0x21ull << 0x1101ull << "" << 1 << 2;
     QTest::newRow("ids and vendor compared in 16 bits, device id cut to 16")
-        << marker + "0x21101, 0x138EE, 0x10030, 0x21, 0, 0, Wide\n" << 0x21ull << 0x1101ull
-        << "Wide" << 0 << 0;
+        << marker + "0x21101, 0x138EE, 0x10030, 0x21, 0, 0, Wide\n"
+        << 0x21ull << 0x1101ull << "Wide" << 0 << 0;
     QTest::newRow("probe id compared in full")
-        << marker + "0x1101, 0x38EE, 0x0030, 0x100000021, 0, 0, Wide\n" << 0x21ull << 0ull << ""
-        << -1 << -1;
+        << marker + "0x1101, 0x38EE, 0x0030, 0x100000021, 0, 0, Wide\n"
+        << 0x21ull << 0ull << "" << -1 << -1;
     QTest::newRow("twelve-digit probe id")
-        << marker + "0x2201, 0x38EE, 0x0030, 202401150042, 0, 0, BY\n" << 202401150042ull
-        << 0x2201ull << "BY" << 0 << 0;
+        << marker + "0x2201, 0x38EE, 0x0030, 202401150042, 0, 0, BY\n"
+        << 202401150042ull << 0x2201ull << "BY" << 0 << 0;
 }
 
 void TestCatalogue::lookupCustom()
@@ -312,8 +316,8 @@ void TestCatalogue::lookupCustom()
     QString outName = QStringLiteral("untouched");
     quint16 outType = 0xABCD;
     quint16 outConnection = 0xABCD;
-    QCOMPARE(OrbeDeviceBase::lookupCustom(0x38EE, 0x0030, probeId, outName, outType,
-                                          outConnection, dir.path()),
+    QCOMPARE(OrbeDeviceBase::lookupCustom(0x38EE, 0x0030, probeId, outName, outType, outConnection,
+                                          dir.path()),
              deviceId);
     if (deviceId == 0) {
         QCOMPARE(outName, QStringLiteral("untouched"));

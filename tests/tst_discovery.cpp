@@ -1,0 +1,570 @@
+// The discovery pass: every family and route against the virtual devices and the shipped
+// catalogue, the exact probe frames against a scripted backend, the record and ageing rules,
+// enumsetting.ini, the gate, and the pass on its own thread in lockstep virtual time.
+
+#include "DeviceRegistry.h"
+#include "FakeHidBackend.h"
+#include "ManualClock.h"
+#include "OrbeDeviceEnum.h"
+#include "SteppedClock.h"
+#include "UserSettings.h"
+#include "VirtualByDevice.h"
+#include "VirtualDiscoverySet.h"
+#include "VirtualHidBackend.h"
+#include "VirtualJmDevice.h"
+#include "VirtualReceiver.h"
+#include "VirtualSilentKeyboard.h"
+#include "VirtualWsDevice.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+namespace {
+
+const QString kSourceRoot = QStringLiteral(ORBE_SOURCE_DIR);
+
+// An application directory with a copy of the shipped config/, so a test may change it.
+class AppDir
+{
+public:
+    AppDir()
+    {
+        QDir().mkpath(path() + "/config");
+        for (const QString& name : QDir(kSourceRoot + "/config").entryList(QDir::Files))
+            QFile::copy(kSourceRoot + "/config/" + name, path() + "/config/" + name);
+    }
+    QString path() const { return dir.path(); }
+    void writeEnumSettings(const QByteArray& content) const
+    {
+        QFile file(path() + "/config/enumsetting.ini");
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(content);
+    }
+
+private:
+    QTemporaryDir dir;
+};
+
+// Virtual devices and a registry over them; passes run on the test's thread.
+struct Rig
+{
+    AppDir app;
+    ManualClock clock;
+    VirtualHidBackend hid{&clock};
+    DeviceRegistry registry{&hid, &clock, app.path()};
+
+    bool pass() { return registry.enumerateDevices(); }
+    const DeviceEnumInfo* find(const QByteArray& path) const
+    {
+        for (const DeviceEnumInfo* r : registry.devices())
+            if (r->devicePath == QString::fromLatin1(path)) return r;
+        return nullptr;
+    }
+};
+
+int identifyCount(const NativeKeyboardModel& model)
+{
+    int n = 0;
+    for (const QByteArray& f : model.receivedFrames())
+        n += quint8(f.at(0)) == 0x8F;
+    return n;
+}
+
+QByteArray reply(const char* hex, quint32 id = 0)
+{
+    QByteArray r = QByteArray::fromHex(hex).leftJustified(64, '\0');
+    for (int i = 0; i < 4; ++i)
+        r[1 + i] = char((id >> (8 * i)) & 0xFF);
+    return r;
+}
+
+enum class Kind { Wired, Bluetooth, Receiver, Ws, By, Jm };
+
+} // namespace
+
+class TestDiscovery : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void everyRouteFindsItsDevice_data();
+    void everyRouteFindsItsDevice();
+    void unsupportedDevicesAreNotListed();
+    void simulateShowsEveryFamily();
+
+    void wiredProbeFrames();
+    void receiverStopsWhenLinkedAndIdle();
+    void bluetoothTries_data();
+    void bluetoothTries();
+    void hitScreenAndPendingPaths();
+
+    void newIdKeepsNameAndType();
+    void ageing();
+    void lostCurrentDeviceRaisesReturn();
+    void enumSettings_data();
+    void enumSettings();
+    void gate_data();
+    void gate();
+
+    void threadRunsRequestedPasses();
+    void silentDeviceHoldsThePassUntilStopped();
+    void unpluggingTheSilentDeviceFreesThePass();
+};
+
+void TestDiscovery::everyRouteFindsItsDevice_data()
+{
+    QTest::addColumn<Kind>("kind");
+    QTest::addColumn<int>("family");
+    QTest::addColumn<int>("connection");
+    QTest::addColumn<quint64>("id");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("vendorPath"); // "=" for the device path
+
+    QTest::newRow("wired keyboard") << Kind::Wired << 0 << 0 << 0x0AF7ull << "ORBE HE75"
+                                    << "=";
+    QTest::newRow("Bluetooth keyboard") << Kind::Bluetooth << 0 << 2 << 0x0AF7ull << "ORBE HE75"
+                                        << "null";
+    QTest::newRow("receiver with a keyboard")
+        << Kind::Receiver << 0 << 1 << 0x0EC3ull << "ORBE HE98"
+        << "=";
+    QTest::newRow("WS") << Kind::Ws << 1 << 1 << 0x1101ull << "WS Virtual 2.4G"
+                        << "null";
+    QTest::newRow("BY") << Kind::By << 2 << 0 << 0x2201ull << "BY Virtual 65"
+                        << "202401150042";
+    QTest::newRow("JM") << Kind::Jm << 3 << 2 << 0x3301ull << "JM Virtual BT"
+                        << "null";
+}
+
+void TestDiscovery::everyRouteFindsItsDevice()
+{
+    QFETCH(Kind, kind);
+    QFETCH(int, family);
+    QFETCH(int, connection);
+    QFETCH(quint64, id);
+    QFETCH(QString, name);
+    QFETCH(QString, vendorPath);
+
+    Rig rig;
+    QByteArray path;
+    switch (kind) {
+    case Kind::Wired:
+        path = rig.hid.addWiredKeyboard()->commandPath();
+        break;
+    case Kind::Bluetooth:
+        path = rig.hid.addWirelessKeyboard()->commandPath();
+        break;
+    case Kind::Receiver:
+        path = rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0x0EC3u, "sim:rx")
+                   ->commandPath();
+        break;
+    case Kind::Ws:
+        path = rig.hid.add<VirtualWsDevice>(VirtualWsDevice::Identity{}, "sim:ws")->path();
+        break;
+    case Kind::By:
+        rig.hid.add<VirtualByDevice>(VirtualByDevice::Identity{}, "sim:by");
+        path = "202401150042";
+        break;
+    case Kind::Jm:
+        path = rig.hid.add<VirtualJmDevice>(quint16(0x3554), quint16(0xF5D5), "sim:jm")->path();
+        break;
+    }
+    QSignalSpy done(&rig.registry, &DeviceRegistry::oEnumDeiceDone);
+    QVERIFY(rig.pass());
+    QCOMPARE(done.count(), 1);
+    QCOMPARE(rig.registry.devices().size(), 1);
+    const DeviceEnumInfo* r = rig.find(path);
+    QVERIFY(r);
+    QCOMPARE(int(r->family), family);
+    QCOMPARE(int(r->connectionType), connection);
+    QCOMPARE(r->deviceId, id);
+    QCOMPARE(r->displayName, name);
+    QCOMPARE(r->vendorPath, vendorPath == "=" ? QString::fromLatin1(path) : vendorPath);
+    QCOMPARE(int(r->deviceType), 0);
+    QVERIFY(r->online);
+    QCOMPARE(r->lastSeen, rig.registry.nowSeconds());
+}
+
+void TestDiscovery::unsupportedDevicesAreNotListed()
+{
+    Rig rig;
+    VirtualKeyboard* unknown = rig.hid.addWiredKeyboard(0x0999, 0x300, 0x0461, 0x4E6B);
+    auto* empty = rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0u, "sim:rx");
+    rig.hid.add<VirtualByDevice>(VirtualByDevice::Identity{.serial = "20240115a042"}, "sim:by");
+    // A WS product id outside the exclusion set is not a WS device.
+    auto* ws = rig.hid.add<VirtualWsDevice>(
+        VirtualWsDevice::Identity{.probeId = 0x21, .vendorId = 0x38EE, .productId = 0x0060},
+        "sim:ws");
+    for (int pass = 1; pass <= 2; ++pass) {
+        QVERIFY(rig.pass());
+        QCOMPARE(identifyCount(unknown->model()), pass); // asked at every pass
+    }
+    QVERIFY(rig.registry.devices().isEmpty());
+    QVERIFY(empty->receivedCommands().contains(0xFC));
+    QCOMPARE(ws->writeCount(), 0);
+}
+
+void TestDiscovery::simulateShowsEveryFamily()
+{
+    AppDir app;
+    ManualClock clock;
+    auto hid = VirtualHidBackend::createDefaultSet(&clock, {});
+    DeviceRegistry registry(hid.get(), &clock, app.path());
+    QVERIFY(registry.enumerateDevices());
+    QSet<QString> found;
+    for (const DeviceEnumInfo& r : registry.records())
+        found.insert(
+            QStringLiteral("%1/%2/%3").arg(r.family).arg(r.connectionType).arg(r.deviceId, 0, 16));
+    QCOMPARE(found,
+             (QSet<QString>{"0/0/af7", "0/2/af7", "0/1/ec3", "1/1/1101", "2/0/2201", "3/2/3301"}));
+}
+
+void TestDiscovery::wiredProbeFrames()
+{
+    AppDir app;
+    ManualClock clock;
+    FakeHidBackend hid(&clock);
+    hid.addEntry(0x3151, 0x502F, 0xFFFF, 2, "cmd");
+    // Three rounds without 8F (not counted), then six rounds of 8F with id 0: a receiver that
+    // names no keyboard. Everything else is echoed.
+    int identifyRounds = 0;
+    hid.responder = [&](const QByteArray& f) {
+        if (quint8(f.at(0)) != 0x8F) return f.left(64);
+        return ++identifyRounds <= 3 ? QByteArray(64, '\0') : reply("8F");
+    };
+    DeviceRegistry registry(&hid, &clock, app.path());
+    QVERIFY(registry.enumerateDevices());
+    QVERIFY(registry.devices().isEmpty());
+
+    QList<QByteArray> sent;
+    QList<qint64> at;
+    for (const FakeHidBackend::Transfer& t : hid.log) {
+        if (t.kind != "feature>") continue;
+        QCOMPARE(t.bytes.size(), 65);
+        sent.append(t.bytes.left(9));
+        at.append(t.at);
+    }
+    QByteArrayList expected;
+    for (int i = 0; i < 9; ++i)
+        expected.append(QByteArray::fromHex("008F000000000000 70"));
+    expected.append(QByteArray::fromHex("00F60A0000000000 FF"));
+    for (int i = 0; i < 5; ++i) // echoed F7: byte 6 never 1
+        expected.append(QByteArray::fromHex("00F7000000000000 08"));
+    expected.append(QByteArray::fromHex("008F000000000000 70"));
+    for (int i = 0; i < 5; ++i) // echoed F7: byte 1 never 0
+        expected.append(QByteArray::fromHex("00F7000000000000 08"));
+    expected.append(QByteArray::fromHex("00FC000000000000 03"));
+    QCOMPARE(sent, expected);
+    // 150 ms to the answer, 50 ms to the next round; the receiver's steps 100 and 50.
+    for (int i = 1; i < 9; ++i)
+        QCOMPARE(at[i] - at[i - 1], 200);
+    QCOMPARE(at[9] - at[8], 150);
+    QCOMPARE(at[10] - at[9], 100);
+    QCOMPARE(at[11] - at[10], 150);
+    QCOMPARE(hid.openHandles(), 0);
+}
+
+void TestDiscovery::receiverStopsWhenLinkedAndIdle()
+{
+    Rig rig;
+    auto* receiver = rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0x0EC3u, "sim:rx");
+    QVERIFY(rig.pass());
+    // Link up after two polls, the relayed 8F done after two more.
+    QCOMPARE(receiver->receivedCommands(),
+             (QList<quint8>{0x8F, 0xF6, 0xF7, 0xF7, 0x8F, 0xF7, 0xF7, 0xF7, 0xFC}));
+    QCOMPARE(rig.hid.openHandleCount(), 0);
+}
+
+void TestDiscovery::bluetoothTries_data()
+{
+    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<int>("writes");
+    QTest::addColumn<bool>("listed");
+    QTest::newRow("8F") << reply("8F", 0x0AF7) << 1 << true;
+    QTest::newRow("88 ends the tries too") << reply("88", 0x0AF7) << 1 << true;
+    QTest::newRow("other replies: five tries") << reply("00") << 5 << false;
+}
+
+void TestDiscovery::bluetoothTries()
+{
+    QFETCH(QByteArray, answer);
+    QFETCH(int, writes);
+    QFETCH(bool, listed);
+    AppDir app;
+    ManualClock clock;
+    FakeHidBackend hid(&clock);
+    hid.addEntry(0x3151, 0x5030, 0xFF55, 0x0202, "bt");
+    hid.responder = [&](const QByteArray&) { return answer; };
+    DeviceRegistry registry(&hid, &clock, app.path());
+    QVERIFY(registry.enumerateDevices());
+
+    QCOMPARE(hid.count("write"), writes);
+    const FakeHidBackend::Transfer& first = *std::find_if(
+        hid.log.begin(), hid.log.end(), [](const auto& t) { return t.kind == "write"; });
+    QCOMPARE(first.bytes, QByteArray::fromHex("06558F00000000000070").leftJustified(66, '\0'));
+    QCOMPARE(hid.log.at(1).kind, QStringLiteral("nonblock"));
+    QCOMPARE(hid.log.at(1).bytes, QByteArray(1, '\0'));
+    QCOMPARE(registry.devices().size(), listed ? 1 : 0);
+    // The handle stays open after the probe; the next pass replaces it.
+    QCOMPARE(hid.openHandles(), 1);
+    QVERIFY(registry.enumerateDevices());
+    QCOMPARE(hid.openHandles(), 1);
+}
+
+void TestDiscovery::hitScreenAndPendingPaths()
+{
+    AppDir app;
+    ManualClock clock;
+    FakeHidBackend hid(&clock);
+    hid.addEntry(0x3151, 0x504B, 0xFF01, 1, "not-a-screen");
+    hid.addEntry(0x3151, 0x0020, 0xFFFF, 2, "excluded");
+    hid.addEntry(0x3151, 0x502F, 0xFFFF, 2, "refuses");
+    hid.addEntry(0x3151, 0x502F, 0xFF55, 0x0001, "other-ff55"); // retries the pending path
+    hid.addEntry(0x3151, 0x504A, 0xFF01, 1, "screen");
+    hid.failingPaths = {"refuses"};
+    hid.responder = [](const QByteArray& f) {
+        return quint8(f.at(0)) == 0x8F ? reply("8F", 0x0D02) : f.left(64);
+    };
+    DeviceRegistry registry(&hid, &clock, app.path());
+    QVERIFY(registry.enumerateDevices());
+
+    QByteArrayList opened;
+    for (const FakeHidBackend::Transfer& t : hid.log)
+        if (t.kind == "open") opened.append(t.path);
+    QCOMPARE(opened, (QByteArrayList{"refuses", "refuses", "screen"}));
+    const QList<DeviceEnumInfo> records = registry.records();
+    QCOMPARE(records.size(), 1);
+    QCOMPARE(records[0].vendorPath, QStringLiteral("HitScreen"));
+    QCOMPARE(records[0].devicePath, QStringLiteral("screen"));
+    QCOMPARE(int(records[0].deviceType), 3);
+    QCOMPARE(records[0].displayName, QStringLiteral("ORBE Hit Box Screen"));
+}
+
+void TestDiscovery::newIdKeepsNameAndType()
+{
+    Rig rig;
+    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
+    QVERIFY(rig.pass());
+    kb->model().setDeviceId(0x0C01); // a mouse's id in the catalogue
+    QVERIFY(rig.pass());
+    QCOMPARE(rig.registry.devices().size(), 1);
+    const DeviceEnumInfo* r = rig.find(kb->commandPath());
+    QCOMPARE(r->deviceId, 0x0C01ull);
+    QCOMPARE(r->displayName, QStringLiteral("ORBE HE75"));
+    QCOMPARE(int(r->deviceType), 0);
+}
+
+void TestDiscovery::ageing()
+{
+    Rig rig;
+    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
+    QVERIFY(rig.pass());
+    const DeviceEnumInfo* r = rig.find(kb->commandPath());
+    const quint32 firstSeen = r->lastSeen;
+
+    // Seen but answering id 0: online until the sighting is 60 s old.
+    kb->model().setDeviceId(0);
+    rig.clock.advance(30000);
+    QVERIFY(rig.pass());
+    QVERIFY(r->online);
+    QCOMPARE(r->lastSeen, firstSeen);
+    rig.clock.advance(31000);
+    QVERIFY(rig.pass());
+    QVERIFY(!r->online);
+
+    // Answering again brings it back.
+    kb->model().setDeviceId(0x0AF7);
+    QVERIFY(rig.pass());
+    QVERIFY(r->online);
+    QCOMPARE(rig.registry.onlineCount(), 1);
+
+    // Gone from the machine: offline at the next pass.
+    kb->unplug();
+    QVERIFY(rig.pass());
+    QVERIFY(!r->online);
+    QCOMPARE(rig.registry.onlineCount(), 0);
+
+    // The scan button empties the list; the record itself stays readable.
+    rig.registry.clear();
+    QVERIFY(rig.registry.devices().isEmpty());
+    QCOMPARE(r->displayName, QStringLiteral("ORBE HE75"));
+}
+
+void TestDiscovery::lostCurrentDeviceRaisesReturn()
+{
+    Rig rig;
+    VirtualKeyboard* current = rig.hid.addWiredKeyboard();
+    VirtualKeyboard* other = rig.hid.addWirelessKeyboard();
+    QVERIFY(rig.pass());
+    rig.registry.setCurrentDevice(rig.registry.devices().first());
+    QCOMPARE(rig.registry.current()->devicePath, QString::fromLatin1(current->commandPath()));
+    auto settings = UserSettings::open(false);
+    settings->setValue(UserSettings::kReturnKey, 0);
+    settings->sync();
+
+    other->unplug();
+    QVERIFY(rig.pass());
+    QCOMPARE(UserSettings::open(false)->value(UserSettings::kReturnKey).toInt(), 0);
+    current->unplug();
+    QVERIFY(rig.pass());
+    QCOMPARE(UserSettings::open(false)->value(UserSettings::kReturnKey).toInt(), 1);
+}
+
+void TestDiscovery::enumSettings_data()
+{
+    QTest::addColumn<QByteArray>("ini");
+    QTest::addColumn<int>("wiredProbes");
+    QTest::addColumn<bool>("wsFound");
+    QTest::newRow("no file: defaults") << QByteArray() << 1 << true;
+    QTest::newRow("a vendor twice is probed twice")
+        << QByteArray("[General]\nVIDset0=\"0x3151, 0x3151\"\n") << 2 << true;
+    QTest::newRow("unquoted list")
+        << QByteArray("[General]\nVIDset0=0x3151, 12625, 0x0461\n") << 2 << true;
+    QTest::newRow("vendor not listed")
+        << QByteArray("[General]\nVIDset0=\"0x0461\"\n") << 0 << true;
+    QTest::newRow("VIDset1 changes nothing")
+        << QByteArray("[General]\nVIDset1=\"0x1234\"\n") << 1 << true;
+}
+
+void TestDiscovery::enumSettings()
+{
+    QFETCH(QByteArray, ini);
+    QFETCH(int, wiredProbes);
+    QFETCH(bool, wsFound);
+    Rig rig;
+    if (ini.isEmpty())
+        QFile::remove(rig.app.path() + "/config/enumsetting.ini");
+    else
+        rig.app.writeEnumSettings(ini);
+    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
+    auto* ws = rig.hid.add<VirtualWsDevice>(VirtualWsDevice::Identity{}, "sim:ws");
+    QVERIFY(rig.pass());
+    QCOMPARE(identifyCount(kb->model()), wiredProbes);
+    QCOMPARE(rig.find(ws->path()) != nullptr, wsFound);
+    QCOMPARE(rig.find(kb->commandPath()) != nullptr, wiredProbes > 0);
+}
+
+void TestDiscovery::gate_data()
+{
+    QTest::addColumn<bool>("suspended");
+    QTest::addColumn<bool>("shown");
+    QTest::addColumn<bool>("hosting");
+    QTest::addColumn<bool>("runs");
+    QTest::newRow("shown") << false << true << false << true;
+    QTest::newRow("suspended for the full read") << true << true << false << false;
+    QTest::newRow("hidden or minimised") << false << false << false << false;
+    QTest::newRow("hidden, hosting a sibling") << false << false << true << true;
+    QTest::newRow("suspended, hosting") << true << false << true << false;
+}
+
+void TestDiscovery::gate()
+{
+    QFETCH(bool, suspended);
+    QFETCH(bool, shown);
+    QFETCH(bool, hosting);
+    QFETCH(bool, runs);
+    Rig rig;
+    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
+    rig.registry.setScanSuspended(suspended);
+    rig.registry.setWindowShown(shown);
+    rig.registry.setHostedWindow(hosting);
+    QSignalSpy done(&rig.registry, &DeviceRegistry::oEnumDeiceDone);
+    QCOMPARE(rig.pass(), runs);
+    QCOMPARE(done.count(), runs ? 1 : 0);
+    QCOMPARE(identifyCount(kb->model()), runs ? 1 : 0);
+    QVERIFY(!rig.registry.isScanning());
+}
+
+void TestDiscovery::threadRunsRequestedPasses()
+{
+    AppDir app;
+    SteppedClock clock;
+    VirtualHidBackend hid(&clock);
+    VirtualKeyboard* kb = hid.addWiredKeyboard();
+    hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0x0EC3u, "sim:rx");
+    DeviceRegistry registry(&hid, &clock, app.path());
+    std::atomic<int> passes{0};
+    connect(
+        &registry, &DeviceRegistry::oEnumDeiceDone, &registry, [&] { ++passes; },
+        Qt::DirectConnection);
+    QObject mainSide;
+    QList<QThread*> deliveredOn;
+    connect(
+        &registry, &DeviceRegistry::oEnumDeiceDone, &mainSide,
+        [&] { deliveredOn.append(QThread::currentThread()); }, Qt::QueuedConnection);
+
+    OrbeDeviceEnum thread;
+    thread.setOwner(&registry);
+    thread.requestScan();
+    QVERIFY(clock.runUntil([&] { return passes == 1; }, 60000));
+    QTRY_COMPARE(deliveredOn.size(), 1);
+    QCOMPARE(deliveredOn.first(), QThread::currentThread());
+    QCOMPARE(registry.devices().size(), 2);
+
+    // A request while a pass runs gives one more pass after it.
+    thread.requestScan();
+    QVERIFY(clock.runUntil([&] { return registry.isScanning(); }, 60000));
+    thread.requestScan();
+    QVERIFY(clock.runUntil([&] { return passes == 3; }, 60000));
+    QCOMPARE(identifyCount(kb->model()), 3);
+}
+
+void TestDiscovery::silentDeviceHoldsThePassUntilStopped()
+{
+    AppDir app;
+    SteppedClock clock;
+    VirtualHidBackend hid(&clock);
+    auto* silent = hid.add<VirtualSilentKeyboard>(quint16(0x3151), quint16(0x5041), "sim:silent");
+    VirtualKeyboard* kb = hid.addWiredKeyboard();
+    DeviceRegistry registry(&hid, &clock, app.path());
+    QSignalSpy done(&registry, &DeviceRegistry::oEnumDeiceDone);
+
+    OrbeDeviceEnum thread;
+    thread.setOwner(&registry);
+    thread.requestScan();
+    QVERIFY(!clock.runUntil([] { return false; }, 60000));
+    // One round every 200 ms, none of them counted.
+    QVERIFY2(silent->requestCount() >= 299 && silent->requestCount() <= 301,
+             qPrintable(QString::number(silent->requestCount())));
+    QVERIFY(registry.isScanning());
+    QCOMPARE(done.count(), 0);
+    QCOMPARE(identifyCount(kb->model()), 0);
+
+    thread.stop();
+    QVERIFY(clock.runUntil([&] { return thread.isFinished(); }, 1000));
+    QVERIFY(thread.wait(10000));
+    QVERIFY(!registry.isScanning());
+    QCOMPARE(done.count(), 0);
+    QCOMPARE(hid.openHandleCount(), 0);
+}
+
+void TestDiscovery::unpluggingTheSilentDeviceFreesThePass()
+{
+    AppDir app;
+    SteppedClock clock;
+    VirtualHidBackend hid(&clock);
+    auto* silent = hid.add<VirtualSilentKeyboard>(quint16(0x3151), quint16(0x5041), "sim:silent");
+    VirtualKeyboard* kb = hid.addWiredKeyboard();
+    DeviceRegistry registry(&hid, &clock, app.path());
+    std::atomic<int> passes{0};
+    connect(
+        &registry, &DeviceRegistry::oEnumDeiceDone, &registry, [&] { ++passes; },
+        Qt::DirectConnection);
+
+    OrbeDeviceEnum thread;
+    thread.setOwner(&registry);
+    thread.requestScan();
+    QVERIFY(!clock.runUntil([&] { return passes > 0; }, 5000));
+    silent->unplug();
+    QVERIFY(clock.runUntil([&] { return passes == 1; }, 60000));
+    QCOMPARE(registry.devices().size(), 1);
+    QCOMPARE(registry.devices().first()->devicePath, QString::fromLatin1(kb->commandPath()));
+}
+
+QTEST_GUILESS_MAIN(TestDiscovery)
+#include "tst_discovery.moc"
