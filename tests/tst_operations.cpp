@@ -446,6 +446,25 @@ private slots:
         QCOMPARE(rig.fw().keyEntry(0, 0, PositionOfCode(0x05)), hex("09 00 07 00"));
     }
 
+    // The same road once on real timers: connect, first chain, profile, read sequence.
+    void connectToReadDoneInRealTime()
+    {
+        QtClock clock;
+        VirtualHidBackend hid(&clock);
+        VirtualKeyboard* keyboard = hid.addWiredKeyboard(0x0EC3, 0x0500);
+        QTemporaryDir dir;
+        DialogDeviceConnect conn(&hid, &clock, dir.filePath("device.ini"));
+        QObject::connect(&conn, &DialogDeviceConnect::onUpdataLayer, &conn,
+                         [&](int layer) { conn.DoSetProfile(quint8(layer)); });
+        QSignalSpy done(&conn, &DialogDeviceConnect::onReadDone);
+        conn.connectStep();
+        QVERIFY(done.wait(20000));
+        QCOMPARE(conn.versionText(), QString("Ver:0x500 Id:3779[EC3]"));
+        QCOMPARE(conn.GetKeyMatrix(0), keyboard->model().keyMap(0, 0));
+        QCOMPARE(conn.GetMagnetTable(MagnetTables::indexOf(0x00)),
+                 keyboard->model().magnetTable(0x00));
+    }
+
     void keyTestStream()
     {
         SimRig rig;
