@@ -12,6 +12,22 @@
 #include <deque>
 #include <functional>
 
+// Bytes from hex text; blanks are ignored.
+inline QByteArray hex(const char* text)
+{
+    return QByteArray::fromHex(text);
+}
+
+// A keyboard's reply to 8F: id 0x0AF7 and the given firmware version.
+inline QByteArray identity(quint16 version)
+{
+    QByteArray r = hex("8F F7 0A 00 00 00 00");
+    r.append(char(version & 0xFF));
+    r.append(char(version >> 8));
+    r.resize(64, '\0');
+    return r;
+}
+
 class FakeHidBackend : public HidBackend
 {
 public:

@@ -14,21 +14,6 @@
 
 namespace {
 
-QByteArray hex(const char* text)
-{
-    return QByteArray::fromHex(text);
-}
-
-// A reply to 8F: id 0x0AF7 and the given version.
-QByteArray identity(quint16 version)
-{
-    QByteArray r = hex("8F F7 0A 00 00 00 00");
-    r.append(char(version & 0xFF));
-    r.append(char(version >> 8));
-    r.resize(64, '\0');
-    return r;
-}
-
 struct Rig
 {
     ManualClock clock;

@@ -17,11 +17,6 @@
 
 namespace {
 
-QByteArray hex(const char* text)
-{
-    return QByteArray::fromHex(text);
-}
-
 using Op = std::function<void(DialogDeviceConnect&)>;
 
 const quint8 kEntryEsc[4] = {0x00, 0x00, 0x29, 0x00};

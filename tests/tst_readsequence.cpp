@@ -13,20 +13,6 @@
 
 namespace {
 
-QByteArray hex(const char* text)
-{
-    return QByteArray::fromHex(text);
-}
-
-QByteArray identity(quint16 version)
-{
-    QByteArray r = hex("8F F7 0A 00 00 00 00");
-    r.append(char(version & 0xFF));
-    r.append(char(version >> 8));
-    r.resize(64, '\0');
-    return r;
-}
-
 // The 99 frames of a read sequence on a given profile, as the keyboard must see them.
 QList<QByteArray> expectedSequence(quint8 profile, bool withTables)
 {
