@@ -58,6 +58,9 @@ private slots:
                                       << true << "call DoSendCommand(132,1,0)";
         QTest::newRow("no command") << QStringList{"--simulate"} << false << "a command";
         QTest::newRow("unknown command") << QStringList{"read"} << false << "unknown command";
+        QTest::newRow("list") << QStringList{"--simulate", "list"} << true << "list sim 300 2807";
+        QTest::newRow("list takes no arguments")
+            << QStringList{"list", "all"} << false << "list takes no arguments";
         QTest::newRow("unknown option")
             << QStringList{"--fast", "info"} << false << "unknown option";
         QTest::newRow("option value missing") << QStringList{"--vid"} << false << "--vid needs";
@@ -101,6 +104,9 @@ private slots:
             break;
         case CliOptions::Command::Call:
             s = "call";
+            break;
+        case CliOptions::Command::List:
+            s = "list";
             break;
         }
         if (o.simulate)

@@ -17,6 +17,7 @@
 #include "VirtualWsDevice.h"
 
 #include <QDir>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -115,6 +116,8 @@ private slots:
     void threadRunsRequestedPasses();
     void silentDeviceHoldsThePassUntilStopped();
     void unpluggingTheSilentDeviceFreesThePass();
+
+    void cliListsOnePass();
 };
 
 void TestDiscovery::everyRouteFindsItsDevice_data()
@@ -564,6 +567,22 @@ void TestDiscovery::unpluggingTheSilentDeviceFreesThePass()
     QVERIFY(clock.runUntil([&] { return passes == 1; }, 60000));
     QCOMPARE(registry.devices().size(), 1);
     QCOMPARE(registry.devices().first()->devicePath, QString::fromLatin1(kb->commandPath()));
+}
+
+// The one pass in real time: the tool over the --simulate set and the catalogue beside it.
+void TestDiscovery::cliListsOnePass()
+{
+    QProcess cli;
+    cli.start(QStringLiteral(ORBEHUB_CLI), {"--simulate", "list"});
+    QVERIFY(cli.waitForFinished(60000));
+    QCOMPARE(cli.exitCode(), 0);
+    const QStringList lines =
+        QString::fromUtf8(cli.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 6);
+    for (const QString& line : lines)
+        QCOMPARE(line.count('\t'), 6);
+    QCOMPARE(lines.first(), "0\t0\t0x0AF7\t1\tORBE HE75\tsim:3151:502F:2\tsim:3151:502F:2");
+    QVERIFY(lines.contains("2\t0\t0x2201\t1\tBY Virtual 65\t202401150042\t202401150042"));
 }
 
 QTEST_GUILESS_MAIN(TestDiscovery)

@@ -38,6 +38,8 @@ bool CliOptions::parse(const QStringList& args, CliOptions* o, QString* error)
             o->simulate = true;
         } else if (a == QLatin1String("--wireless")) {
             o->wireless = true;
+        } else if (a == QLatin1String("--sim-silent")) {
+            o->simSilent = true;
         } else if (a == QLatin1String("--timing")) {
             o->timing = true;
         } else if (a == QLatin1String("--help") || a == QLatin1String("-h")) {
@@ -64,7 +66,7 @@ bool CliOptions::parse(const QStringList& args, CliOptions* o, QString* error)
     }
 
     if (i >= args.size()) {
-        *error = QStringLiteral("a command is missing: info, dump or call");
+        *error = QStringLiteral("a command is missing: info, dump, call or list");
         return false;
     }
     const QString command = args.at(i);
@@ -81,7 +83,13 @@ bool CliOptions::parse(const QStringList& args, CliOptions* o, QString* error)
         o->command = Command::Call;
         return CallRegistry::plan(rest, &o->calls, error);
     }
-    *error = QStringLiteral("unknown command \"%1\": info, dump or call").arg(command);
+    if (command == QLatin1String("list")) {
+        o->command = Command::List;
+        if (rest.isEmpty()) return true;
+        *error = QStringLiteral("list takes no arguments");
+        return false;
+    }
+    *error = QStringLiteral("unknown command \"%1\": info, dump, call or list").arg(command);
     return false;
 }
 
@@ -97,6 +105,8 @@ QString CliOptions::usage()
         "  call OPERATION ARGS... [-- OPERATION ARGS...]...\n"
         "           connect, read the profile, run the operations in order (each one until\n"
         "           the connection is idle again), then print the cache as JSON\n"
+        "  list     run one discovery pass as the hub does and print one line per device:\n"
+        "           family, connection, id, online, name, vendor path, device path (tabs)\n"
         "\n"
         "Options:\n"
         "  --simulate         use the built-in virtual keyboards instead of hidapi\n"
@@ -104,6 +114,8 @@ QString CliOptions::usage()
         "                     usage 0202): the virtual wireless keyboard with --simulate\n"
         "  --sim-version N    firmware version of the virtual keyboards (default 0x300)\n"
         "  --sim-id N         device id of the virtual keyboards (default 0xAF7)\n"
+        "  --sim-silent       add a virtual keyboard that never answers its identity request\n"
+        "                     (list then stops after 30 s with status 5)\n"
         "  --vid N, --pid N   the keyboard's USB ids (default: lastVID/lastPID of\n"
         "                     config/device.ini, 3151/502F when unset)\n"
         "  --trace FILE       write every HID transfer to FILE\n"

@@ -10,12 +10,13 @@
 // The command line of orbehub-cli, read and checked before anything touches a device.
 struct CliOptions
 {
-    enum class Command { Info, Dump, Call };
+    enum class Command { Info, Dump, Call, List };
 
     bool simulate = false;
     bool wireless = false;
     bool timing = false;
     bool help = false;
+    bool simSilent = false; // the virtual keyboard that never answers 8F
     quint32 simDeviceId = 0x0AF7;
     quint16 simFirmwareVersion = 0x0300;
     std::optional<quint16> vid;

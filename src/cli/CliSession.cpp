@@ -2,6 +2,7 @@
 
 #include "CacheJson.h"
 #include "Clock.h"
+#include "DeviceListCommand.h"
 #include "DialogDeviceConnect.h"
 #include "HidapiBackend.h"
 #include "TracingHidBackend.h"
@@ -50,6 +51,10 @@ CliSession::~CliSession()
 
 void CliSession::start()
 {
+    if (options.command == CliOptions::Command::List) {
+        if (openBackend()) finish(DeviceListCommand::run(*hid, *clock, out, err));
+        return;
+    }
     if (!openBackend() || !connectKeyboard()) return;
     armDeadline(options.command == CliOptions::Command::Info
                     ? QStringLiteral("the keyboard did not answer within 30 s")
@@ -62,6 +67,7 @@ bool CliSession::openBackend()
         SimulatorOptions sim;
         sim.deviceId = options.simDeviceId;
         sim.firmwareVersion = options.simFirmwareVersion;
+        sim.silentKeyboard = options.simSilent;
         auto virtualSet = VirtualHidBackend::createDefaultSet(clock, sim);
         VirtualKeyboard* keyboard =
             options.wireless ? virtualSet->wirelessKeyboard() : virtualSet->wiredKeyboard();
