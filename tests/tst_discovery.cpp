@@ -98,6 +98,8 @@ private slots:
     void everyRouteFindsItsDevice();
     void unsupportedDevicesAreNotListed();
     void simulateShowsEveryFamily();
+    void batteryQueries_data();
+    void batteryQueries();
 
     void wiredProbeFrames();
     void receiverStopsWhenLinkedAndIdle();
@@ -225,6 +227,61 @@ void TestDiscovery::simulateShowsEveryFamily()
             QStringLiteral("%1/%2/%3").arg(r.family).arg(r.connectionType).arg(r.deviceId, 0, 16));
     QCOMPARE(found,
              (QSet<QString>{"0/0/af7", "0/2/af7", "0/1/ec3", "1/1/1101", "2/0/2201", "3/2/3301"}));
+}
+
+void TestDiscovery::batteryQueries_data()
+{
+    QTest::addColumn<Kind>("kind");
+    QTest::newRow("receiver") << Kind::Receiver;
+    QTest::newRow("Bluetooth keyboard") << Kind::Bluetooth;
+    QTest::newRow("WS") << Kind::Ws;
+}
+
+// The questions a device card asks a wireless device for its charge.
+void TestDiscovery::batteryQueries()
+{
+    QFETCH(Kind, kind);
+    ManualClock clock;
+    VirtualHidBackend hid(&clock);
+    QByteArray path;
+    if (kind == Kind::Receiver) {
+        auto* receiver = hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0x0EC3u, "sim:rx");
+        receiver->setBattery(42);
+        path = receiver->commandPath();
+    } else if (kind == Kind::Bluetooth) {
+        VirtualKeyboard* kb = hid.addWirelessKeyboard();
+        kb->setBattery(42);
+        path = kb->commandPath();
+    } else {
+        auto* ws = hid.add<VirtualWsDevice>(VirtualWsDevice::Identity{}, "sim:ws");
+        ws->setBattery(42);
+        path = ws->path();
+    }
+    HidHandle* h = hid.openPath(path);
+    QVERIFY(h);
+    quint8 reply[1024] = {};
+    int got = 0;
+    if (kind == Kind::Ws) {
+        const QByteArray request = QByteArray::fromHex("040000 1A 06 000000");
+        QCOMPARE(hid.write(h, reinterpret_cast<const quint8*>(request.constData()), 8), 8);
+        clock.sleepMs(30);
+        got = hid.readTimeout(h, reply, 16, 50);
+        QCOMPARE(got, 16);
+        QCOMPARE(int(reply[8]), 42);
+    } else {
+        const QByteArray request = QByteArray::fromHex("00F7000000000000 08").leftJustified(65, 0);
+        for (int round = 0; round < 5 && reply[6] != 1; ++round) {
+            QCOMPARE(hid.sendFeatureReport(h, reinterpret_cast<const quint8*>(request.data()), 65),
+                     65);
+            clock.sleepMs(100);
+            reply[0] = 0;
+            got = hid.getFeatureReport(h, reply, 65);
+        }
+        QCOMPARE(got, 65);
+        QCOMPARE(int(reply[6]), 1);
+        QCOMPARE(int(reply[2]), 42);
+    }
+    hid.close(h);
 }
 
 void TestDiscovery::wiredProbeFrames()

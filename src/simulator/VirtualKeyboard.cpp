@@ -29,6 +29,11 @@ constexpr qint64 kKeyTestIntervalMs = 20;
 constexpr qint64 kKeyStrokeMs = 1200; // down and up again
 constexpr int kBottomTravel = 720;
 
+// The battery status request, a feature report even on the wireless interface.
+constexpr quint8 kStatusCommand = 0xF7;
+constexpr int kStatusBattery = 1; // offsets in the logical reply
+constexpr int kStatusLink = 5;
+
 } // namespace
 
 VirtualKeyboard::VirtualKeyboard(std::mutex& backendLock, Clock* deviceClock, bool isWirelessKb,
@@ -85,6 +90,12 @@ QList<HidDeviceInfo> VirtualKeyboard::interfaces() const
     return {input, command};
 }
 
+void VirtualKeyboard::setBattery(quint8 percent)
+{
+    std::lock_guard guard(lock);
+    battery = percent;
+}
+
 void VirtualKeyboard::dropNextReplies(int n)
 {
     std::lock_guard guard(lock);
@@ -122,6 +133,14 @@ QByteArray VirtualKeyboard::run(const QByteArray& frame)
 
 int VirtualKeyboard::sendFeatureReport(int interfaceIndex, const quint8* data, size_t length)
 {
+    if (wireless && isCommandInterface(interfaceIndex) && length >= 2 &&
+        data[0] == Frame::kWiredReportId && data[1] == kStatusCommand) {
+        featureBuffer = QByteArray(kFrameSize, '\0');
+        featureBuffer[0] = char(kStatusCommand);
+        featureBuffer[kStatusBattery] = char(battery);
+        featureBuffer[kStatusLink] = 1;
+        return int(length);
+    }
     if (wireless || !isCommandInterface(interfaceIndex) || length < 2 ||
         data[0] != Frame::kWiredReportId)
         return -1;
@@ -143,9 +162,11 @@ int VirtualKeyboard::deliver(const QByteArray& report, quint8* data, size_t leng
 
 int VirtualKeyboard::getFeatureReport(int interfaceIndex, quint8* data, size_t length)
 {
-    if (wireless || !isCommandInterface(interfaceIndex) || length < 1 ||
-        data[0] != Frame::kWiredReportId)
+    if (!isCommandInterface(interfaceIndex) || length < 1 || data[0] != Frame::kWiredReportId)
         return -1;
+    // Wireless: only the status reply is here; the faults are for the replies on the air.
+    if (wireless)
+        return deliver(QByteArray(1, char(Frame::kWiredReportId)) + featureBuffer, data, length);
     if (dropCount > 0) {
         --dropCount;
         qCDebug(lcSimulator) << "dropped a feature reply on" << commandPath();

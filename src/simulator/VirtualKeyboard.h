@@ -44,6 +44,10 @@ public:
     // Wireless: the next read brings a stale 06 77 report, the read after it the reply.
     void staleReportNext();
 
+    // The charge the F7 status feature report gives (reply byte 2, with byte 6 = 1 for a live
+    // link). Only the wireless keyboard answers it; the hub's cards poll it for the battery.
+    void setBattery(quint8 percent);
+
     // The raw travel the key-test stream reports at a moment: a key going down to the bottom
     // and up again, over and over.
     static quint16 keyTestTravel(qint64 milliseconds);
@@ -76,4 +80,5 @@ private:
     int dropCount = 0;
     std::optional<int> shortLength;
     bool stalePending = false;
+    quint8 battery = 88;
 };
