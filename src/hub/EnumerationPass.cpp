@@ -57,7 +57,8 @@ std::optional<QStringList> EnumerationPass::run()
 {
     const VidSets vendors = readVidSets(setup.appDir);
     // VIDset1 is read but deliberately not used: pass 2 always walks its built-in vendors.
-    qCDebug(lcHub) << "pass: VIDset0" << vendors.set0 << "VIDset1 (unused)" << vendors.set1;
+    qCDebug(lcHub) << "pass: VIDset0" << Qt::hex << vendors.set0 << "VIDset1 (unused)"
+                   << vendors.set1;
     if (!passCloudFamily(vendors.set0)) return std::nullopt;
     if (stopped()) return std::nullopt;
     passWsFamily();
@@ -107,6 +108,7 @@ void EnumerationPass::probeBluetooth(const HidDeviceInfo& entry)
     }
     // Deliberately left open after the probe (KeptHandles closes it at the next one).
     const quint32 id = DeviceProbes::bluetooth(hid, *setup.clock, handle);
+    qCDebug(lcHub, "Bluetooth probe %s: id %X", entry.path.constData(), id);
     if (id != 0)
         registry.addDevice(entry.vendorId, entry.productId, id, QLatin1String(kNoVendorPath),
                            pathText(entry.path), DeviceEnumInfo::Bluetooth,
@@ -129,6 +131,8 @@ bool EnumerationPass::checkPending(const HidDeviceInfo& entry)
         hid.close(handle);
         return false;
     }
+    qCDebug(lcHub) << "wired probe" << pendingDevicePath << "id" << Qt::hex << answer.id
+                   << "connection" << answer.connection;
     registry.addDevice(entry.vendorId, entry.productId, answer.id, pendingVendorPath,
                        pendingDevicePath, answer.connection, DeviceEnumInfo::CloudFamily);
     pendingVendorPath.clear();
@@ -147,6 +151,7 @@ void EnumerationPass::passWsFamily()
             if (!handle) continue;
             // Deliberately left open after the probe, as on the Bluetooth route.
             const std::optional<quint8> id = DeviceProbes::ws(hid, *setup.clock, handle);
+            qCDebug(lcHub) << "WS probe" << entry.path << "id" << (id ? int(*id) : -1);
             if (!id) continue;
             registry.addDevice(entry.vendorId, entry.productId, *id, QLatin1String(kNoVendorPath),
                                pathText(entry.path), DeviceEnumInfo::Usb, DeviceEnumInfo::WsFamily);
@@ -162,6 +167,7 @@ void EnumerationPass::passByFamily()
         HidHandle* handle = hid.openPath(entry.path);
         if (!handle) continue;
         const QString serial = DeviceProbes::by(hid, handle);
+        qCDebug(lcHub) << "BY probe" << entry.path << "serial" << serial;
         bool ok = false;
         const quint64 id = serial.toULongLong(&ok, 10); // 0 as soon as a digit is a letter
         registry.addDevice(entry.vendorId, entry.productId, ok ? id : 0, serial, serial,
