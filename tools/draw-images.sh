@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Draws every picture of the hub with the QPainter program in tools/draw-images:
+#   resources/hub-images      built into the program under ":/images/"
+#   resources/shipped-images  copied beside the program as images/ (start-up pictures, the
+#                             default picture of each device type, one picture per device)
+# Run again after changing a drawing; the PNGs are committed. The output is the same byte for
+# byte on every run.
+set -eu
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build=${ORBE_DRAW_BUILD:-$here/build-draw-images}
+
+cmake -S "$here/tools/draw-images" -B "$build" -DCMAKE_BUILD_TYPE=Release >/dev/null
+cmake --build "$build" -j2
+rm -rf "$here/resources/hub-images" "$here/resources/shipped-images"
+QT_QPA_PLATFORM=offscreen "$build/orbe_draw_images" \
+  "$here/resources/hub-images" "$here/resources/shipped-images"
+echo "drew $(find "$here/resources/hub-images" "$here/resources/shipped-images" -name '*.png' | wc -l) pictures"
