@@ -6,7 +6,6 @@
 set -u
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-platform="$here/src/platform"
 
 cxx=""
 for candidate in x86_64-w64-mingw32-g++-posix x86_64-w64-mingw32-g++; do
@@ -29,21 +28,25 @@ flags=(-std=c++20 -fsyntax-only -Wall -Wextra -Werror)
 qt_flags=(-isystem "$qt_include" -isystem "$qt_include/QtCore" -DQT_CORE_LIB)
 
 status=0
+# check DIR FILE [FLAGS...]: one file under src/DIR.
 check() {
-  local file=$1
-  shift
-  if "$cxx" "${flags[@]}" "$@" -I"$platform" "$platform/$file"; then
-    echo "check-windows-syntax: ok      src/platform/$file"
+  local dir=$1 file=$2
+  shift 2
+  if "$cxx" "${flags[@]}" "$@" -I"$here/src/$dir" "$here/src/$dir/$file"; then
+    echo "check-windows-syntax: ok      src/$dir/$file"
   else
-    echo "check-windows-syntax: FAILED  src/platform/$file" >&2
+    echo "check-windows-syntax: FAILED  src/$dir/$file" >&2
     status=1
   fi
 }
 
 echo "check-windows-syntax: $cxx ${flags[*]}"
-check Win32Calls.cpp
+check platform Win32Calls.cpp
 echo "check-windows-syntax: with the Qt headers of $qt_include"
-check WindowsPlatform.cpp "${qt_flags[@]}"
-check Platform.cpp "${qt_flags[@]}"
-check PlatformLog.cpp "${qt_flags[@]}"
+check platform WindowsPlatform.cpp "${qt_flags[@]}"
+check platform Platform.cpp "${qt_flags[@]}"
+check platform PlatformLog.cpp "${qt_flags[@]}"
+# The hot-plug message filter and the per-user store of the hub.
+check hub USBNotifier.cpp "${qt_flags[@]}" -I"$here/src/device" -I"$here/src/platform"
+check hub UserSettings.cpp "${qt_flags[@]}" -I"$here/src/device" -I"$here/src/platform"
 exit $status
