@@ -10,11 +10,6 @@
 
 namespace {
 
-QByteArray hex(const char* text)
-{
-    return QByteArray::fromHex(text);
-}
-
 // The frame cut after its last non-zero byte, for comparing with written-out examples.
 QByteArray trimmed(QByteArray bytes)
 {
