@@ -1,0 +1,6 @@
+#include "FrameKeySetting.h"
+
+FrameKeySetting::FrameKeySetting(QWidget* parent) : QFrame(parent)
+{
+    setObjectName(QStringLiteral("FrameKeySetting"));
+}

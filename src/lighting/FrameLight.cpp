@@ -1,0 +1,6 @@
+#include "FrameLight.h"
+
+FrameLight::FrameLight(QWidget* parent) : QFrame(parent)
+{
+    setObjectName(QStringLiteral("FrameLight"));
+}

@@ -1,0 +1,6 @@
+#include "FrameMacro.h"
+
+FrameMacro::FrameMacro(QWidget* parent) : QFrame(parent)
+{
+    setObjectName(QStringLiteral("FrameMacro"));
+}

@@ -1,0 +1,6 @@
+#include "FrameMagic.h"
+
+FrameMagic::FrameMagic(QWidget* parent) : QFrame(parent)
+{
+    setObjectName(QStringLiteral("FrameMagic"));
+}
