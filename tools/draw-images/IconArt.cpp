@@ -111,6 +111,39 @@ void drawGlyph(QPainter& p, Glyph glyph, QColor colour)
         path.lineTo(9.5, 19);
         p.drawPath(path);
         break;
+    case Glyph::Close:
+        p.drawLine(QPointF(6.5, 6.5), QPointF(17.5, 17.5));
+        p.drawLine(QPointF(17.5, 6.5), QPointF(6.5, 17.5));
+        break;
+    case Glyph::Settings: {
+        // A gear of six rounded teeth around a hole.
+        QPainterPath gear;
+        gear.addEllipse(QPointF(12, 12), 6.4, 6.4);
+        for (int t = 0; t < 6; ++t) {
+            QPainterPath tooth;
+            tooth.addRoundedRect(QRectF(-1.9, -9.2, 3.8, 4), 1, 1);
+            gear = gear.united(QTransform().translate(12, 12).rotate(60.0 * t).map(tooth));
+        }
+        p.drawPath(gear.simplified());
+        p.drawEllipse(QPointF(12, 12), 2.6, 2.6);
+        break;
+    }
+    case Glyph::Language:
+        // A globe: the outline, two meridians and the equator.
+        p.drawEllipse(QPointF(12, 12), 9, 9);
+        p.drawEllipse(QRectF(8, 3, 8, 18));
+        p.drawLine(QPointF(3.2, 12), QPointF(20.8, 12));
+        break;
+    case Glyph::Minimise:
+        p.drawLine(QPointF(6, 12), QPointF(18, 12));
+        break;
+    case Glyph::Check:
+        path.moveTo(5.5, 12.5);
+        path.lineTo(10, 17);
+        path.lineTo(18.5, 7.5);
+        p.setPen(Art::linePen(colour, 2.8));
+        p.drawPath(path);
+        break;
     }
 }
 

@@ -15,9 +15,15 @@ enum class Glyph {
     About,
     User,
     Return,
+    Close,
+    Settings,
+    Language,
+    Minimise,
+    Check,
 };
 
 // A navigation entry: grey glyph when normal, white when selected (on the purple pill).
+// Also the window's and dialogs' small buttons.
 QImage navigation(Glyph glyph, bool selected);
 
 // The battery badge of a card, filled to level (0 to 1).

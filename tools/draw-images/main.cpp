@@ -124,6 +124,12 @@ int main(int argc, char* argv[])
     Art::save(IconArt::floatArrow(false), res + "a-right.png");
     Art::save(IconArt::navigation(Glyph::Return, false), res + "btn-return.png");
     Art::save(IconArt::navigation(Glyph::User, false), res + "User.png");
+    Art::save(IconArt::navigation(Glyph::Close, false), res + "ic-close.png");
+    Art::save(IconArt::navigation(Glyph::Settings, false), res + "ic-set.png");
+    Art::save(IconArt::navigation(Glyph::Language, false), res + "ic-lang.png");
+    Art::save(IconArt::navigation(Glyph::Minimise, false), res + "ic-min.png");
+    // White: the tick of a checked box, on purple.
+    Art::save(IconArt::navigation(Glyph::Check, true), res + "ic-check.png");
     Art::save(IconArt::lamp(false), res + "General_NG4.png");
     Art::save(IconArt::lamp(true), res + "General_OK4.png");
     Art::save(DeviceArt::showcase(), res + "Orbe-Kb3.png");
