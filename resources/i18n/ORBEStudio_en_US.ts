@@ -2,6 +2,71 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="zh_CN">
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Device name: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Keyboard firmware version: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Wireless receiver firmware version: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Current version: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Check for keyboard firmware updates</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Check for receiver firmware updates</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Tutorials</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>About Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>System settings</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Start this program when I log in</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>重新连接</source>
@@ -78,6 +143,10 @@
     <message>
         <source>未知（%1）</source>
         <translation>unknown (%1)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Settings</translation>
     </message>
 </context>
 <context>
@@ -536,10 +605,84 @@
     </message>
 </context>
 <context>
+    <name>ModuleLangMenu</name>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>한국어</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>Русский</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Tiếng Việt</source>
+        <translation>Tiếng Việt</translation>
+    </message>
+    <message>
+        <source>Português</source>
+        <translation>Português</translation>
+    </message>
+    <message>
+        <source>ภาษาไทย</source>
+        <translation>ภาษาไทย</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Svenska</source>
+        <translation>Svenska</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>Türkçe</source>
+        <translation>Türkçe</translation>
+    </message>
+</context>
+<context>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleVideoItem</name>
+    <message>
+        <source>Movie</source>
+        <translation>Movie</translation>
+    </message>
+    <message>
+        <source>Orbe 7090 操作指南-宏设置</source>
+        <translation>Orbe 7090 guide: macro settings</translation>
+    </message>
+    <message>
+        <source>Orbe 2025-10-20</source>
+        <translation>Orbe 2025-10-20</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,71 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="zh_CN">
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>重新连接</source>
@@ -77,6 +142,10 @@
     </message>
     <message>
         <source>未知（%1）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设置</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -536,9 +605,83 @@
     </message>
 </context>
 <context>
+    <name>ModuleLangMenu</name>
+    <message>
+        <source>中文简体</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>한국어</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Русский</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tiếng Việt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Português</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ภาษาไทย</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Svenska</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Türkçe</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleVideoItem</name>
+    <message>
+        <source>Movie</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orbe 7090 操作指南-宏设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orbe 2025-10-20</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

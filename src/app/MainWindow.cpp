@@ -3,14 +3,19 @@
 #include "AppLog.h"
 #include "Clock.h"
 #include "DialogDeviceConnect.h"
+#include "FrameSystemInfo.h"
 #include "HidBackend.h"
+#include "ModuleLangMenu.h"
+#include "Platform.h"
 
+#include <QDialog>
 #include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTime>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <array>
 
@@ -37,7 +42,19 @@ QPushButton#reconnectButton { background-color: #6329B6; color: #FFFFFF; border:
     border-radius: 8px; padding: 6px 18px; font-size: 14px; }
 QPushButton#reconnectButton:hover { background-color: #7A45C9; }
 QPushButton#reconnectButton:pressed { background-color: #4F2092; }
+QPushButton#pushButtonLang, QPushButton#pushButtonSet { background-color: transparent;
+    color: #FFFFFF; border: 1px solid rgba(255, 255, 255, 0.5); border-radius: 14px;
+    padding: 4px 14px; font-size: 13px; }
+QPushButton#pushButtonLang:hover, QPushButton#pushButtonSet:hover {
+    background-color: rgba(255, 255, 255, 0.15); }
 )";
+
+// The settings dialog's mask.
+const char* const kSystemInfoMaskStyle =
+    "QDialog { background-color: rgba(220, 220, 220, 0.96); border: none; border-radius: 20px; }";
+constexpr QSize kLanguageMenuSize(110, 280);
+constexpr int kLanguageMenuShift = 10;
+constexpr int kSavedLanguageDelayMs = 10;
 
 QLabel* makeLabel(const char* objectName, QWidget* parent)
 {
@@ -96,6 +113,12 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, QWidget*
     connect(d, &DialogDeviceConnect::onReadDone, this, &MainWindow::onReadFinished);
     connect(reconnectButton, &QPushButton::clicked, this, &MainWindow::connectKeyboard);
 
+    langMenu = new ModuleLangMenu(this);
+    connect(langMenu, &ModuleLangMenu::onLangChanged, this, &MainWindow::applyLanguage);
+    connect(langButton, &QPushButton::clicked, this, &MainWindow::showLanguageMenu);
+    connect(setButton, &QPushButton::clicked, this, &MainWindow::openSystemInfo);
+    QTimer::singleShot(kSavedLanguageDelayMs, this, &MainWindow::selectSavedLanguage);
+
     retranslateUi();
     connectKeyboard();
 }
@@ -122,6 +145,15 @@ void MainWindow::buildUi()
     titleLabel = makeLabel("titleLabel", header);
     headerLayout->addWidget(titleLabel);
     headerLayout->addStretch();
+    langButton = new QPushButton(header);
+    langButton->setObjectName(QStringLiteral("pushButtonLang"));
+    setButton = new QPushButton(header);
+    setButton->setObjectName(QStringLiteral("pushButtonSet"));
+    for (QPushButton* button : {langButton, setButton}) {
+        button->setCursor(Qt::PointingHandCursor);
+        button->setFocusPolicy(Qt::NoFocus);
+        headerLayout->addWidget(button);
+    }
 
     auto* card = new QFrame(this);
     card->setObjectName(QStringLiteral("card"));
@@ -200,6 +232,8 @@ void MainWindow::retranslateUi()
     setWindowTitle(QStringLiteral("OrbeHub"));
     titleLabel->setText(QStringLiteral("OrbeHub"));
     reconnectButton->setText(tr("重新连接"));
+    langButton->setText(language.languageText());
+    setButton->setText(tr("设置"));
     deviceIdRow.caption->setText(tr("设备 ID"));
     firmwareRow.caption->setText(tr("固件版本"));
     profileRow.caption->setText(tr("板载配置"));
@@ -304,4 +338,45 @@ void MainWindow::onReadFinished()
     qCDebug(lcApp) << "read done after" << lastReadMs << "ms";
     setLinkState(device->isConnected() ? LinkState::Connected : LinkState::NotOpened);
     refreshValues();
+}
+
+void MainWindow::applyLanguage(int index, const QString& text)
+{
+    language.setTranslators(appTranslator, qtBaseTranslator, qtTranslator);
+    language.apply(index, text);
+    langButton->setText(language.languageText());
+}
+
+void MainWindow::selectSavedLanguage()
+{
+    // No default on purpose: a first run comes up in language 0 whatever the system's locale.
+    langMenu->selectLanguage(Platform::instance().userValue(QStringLiteral("lastlang")).toInt());
+}
+
+void MainWindow::showLanguageMenu()
+{
+    if (!langMenu->isHidden()) return;
+    langMenu->move(langButton->mapToGlobal(QPoint(kLanguageMenuShift, langButton->height())));
+    langMenu->resize(kLanguageMenuSize);
+    langMenu->show();
+}
+
+void MainWindow::openSystemInfo()
+{
+    langMenu->hide();
+    QDialog mask(this);
+    mask.setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    mask.setAttribute(Qt::WA_TranslucentBackground);
+    mask.setStyleSheet(QLatin1String(kSystemInfoMaskStyle));
+    auto* layout = new QVBoxLayout(&mask);
+    // Made for this opening alone, without a parent of its own.
+    auto* info = new FrameSystemInfo();
+    layout->addWidget(info, 0, Qt::AlignCenter);
+    connect(info, &FrameSystemInfo::decided, &mask,
+            [&mask](bool accepted) { accepted ? mask.accept() : mask.reject(); });
+    mask.setGeometry(geometry());
+    mask.exec();
+    layout->removeWidget(info);
+    info->setParent(nullptr);
+    info->deleteLater();
 }

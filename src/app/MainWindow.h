@@ -1,11 +1,14 @@
 #pragma once
 
+#include "LanguageSwitch.h"
+
 #include <QWidget>
 #include <memory>
 
 class Clock;
 class DialogDeviceConnect;
 class HidBackend;
+class ModuleLangMenu;
 class QLabel;
 class QPushButton;
 class QTranslator;
@@ -23,6 +26,12 @@ public:
     ~MainWindow() override;
 
     DialogDeviceConnect* connection() const { return device.get(); }
+    ModuleLangMenu* languageMenu() const { return langMenu; }
+
+    // Carries out a choice of the language menu (index into kLanguages, the menu's text).
+    void applyLanguage(int index, const QString& text);
+    // The start-up choice: the saved "lastlang", language 0 when there is none.
+    void selectSavedLanguage();
 
     // Set by main(); the window reloads them when the language changes, it doesn't own them.
     QTranslator* appTranslator = nullptr;
@@ -36,6 +45,8 @@ private:
     enum class LinkState { Searching, NotFound, NotOpened, Connected, Reading };
 
     void buildUi();
+    void showLanguageMenu();
+    void openSystemInfo();
     void retranslateUi();
     void connectKeyboard();
     void setLinkState(LinkState state);
@@ -63,6 +74,10 @@ private:
     QLabel* versionLabel = nullptr;
     QLabel* readDoneLabel = nullptr;
     QPushButton* reconnectButton = nullptr;
+    QPushButton* langButton = nullptr;
+    QPushButton* setButton = nullptr;
+    ModuleLangMenu* langMenu = nullptr;
+    LanguageSwitch language;
 
     // One row per value: the caption and the value.
     struct Row
