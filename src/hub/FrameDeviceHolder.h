@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QFrame>
+#include <QList>
+#include <QString>
+
+class Clock;
+class DialogDeviceConnect;
+class FrameMain;
+class HidBackend;
+class QButtonGroup;
+class QLabel;
+class QPushButton;
+class SuperLabel;
+struct DeviceEnumInfo;
+
+// The page of a native keyboard: a navigation column, a toolbar with the device's name, badges
+// and onboard profiles, and six pages. It makes the program's one connection.
+class FrameDeviceHolder : public QFrame
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kPageCount = 6;
+    static constexpr QSize kPageSize{1124, 740};
+    static constexpr int kLayerCount = 4;
+
+    // hid and clock must outlive the shell; they serve the connection.
+    FrameDeviceHolder(HidBackend* hid, Clock* clock, QWidget* parent = nullptr);
+    ~FrameDeviceHolder() override;
+
+    DialogDeviceConnect* connection() const { return device; }
+    DeviceEnumInfo* currentDevice() const { return current; }
+    // The page shown, 0 to 5.
+    int currentPage() const { return pageIndex; }
+    QWidget* page(int index) const { return pages.value(index); }
+
+    void setDevice(DeviceEnumInfo* device, const QString& deviceImage, const QString& name);
+    // Ignored while the connection reads the keyboard; 6 and 7 leave the shell.
+    void showPage(SuperLabel* label, int index);
+    // Presses the button of an onboard profile, 0 to 3; other values do nothing.
+    void setLayer(int layer);
+    // A card's battery answer; ignored unless it is about the device shown.
+    void showBattery(DeviceEnumInfo* device, const QString& battImg, const QString& typeImg,
+                     const QString& tip, const QString& style);
+
+signals:
+    void onReturn();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void buildForm();
+    QWidget* buildToolbar();
+    void retranslate(bool languageChange);
+    void onLayerClicked(int id);
+    void openCalibration();
+
+    DialogDeviceConnect* device;
+    DeviceEnumInfo* current = nullptr;
+    QList<SuperLabel*> labels;
+    QList<QWidget*> pages;
+    FrameMain* frameMain = nullptr;
+    int pageIndex = 0;
+
+    QLabel* labelName = nullptr;
+    QLabel* labelBatt = nullptr;
+    QLabel* labelConn = nullptr;
+    QWidget* horizontalFrame = nullptr;
+    QButtonGroup* buttonGroupLayer = nullptr;
+    QList<QPushButton*> layerButtons;
+    QPushButton* pushButtonPairing = nullptr;
+    QPushButton* pushButtonReset = nullptr;
+    QPushButton* pushButtonFixline = nullptr;
+};
