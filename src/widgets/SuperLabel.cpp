@@ -81,9 +81,11 @@ void SuperLabel::setSelected(bool selected)
         if (selectedLabels.value(parent()) == this) selectedLabels.remove(parent());
         return;
     }
-    QPointer<SuperLabel>& current = selectedLabels[parent()];
-    if (current && current != this) current->setSelected(false);
-    current = this;
+    // Deselecting the previous label takes its entry out of the table: no reference into it
+    // may be held across that call.
+    const QPointer<SuperLabel> previous = selectedLabels.value(parent());
+    if (previous && previous != this) previous->setSelected(false);
+    selectedLabels.insert(parent(), this);
 }
 
 void SuperLabel::setTip(const QString& text)
