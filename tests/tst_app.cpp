@@ -1,13 +1,8 @@
 #include "AppStartup.h"
-#include "DialogDeviceConnect.h"
-#include "MainWindow.h"
-#include "ManualClock.h"
-#include "VirtualHidBackend.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QLabel>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -24,31 +19,31 @@ private slots:
     {
         QTest::addColumn<QStringList>("uiLanguages");
         QTest::addColumn<QString>("loaded");
-        QTest::addColumn<QString>("connected"); // what the window's "已连接" reads as
+        QTest::addColumn<QString>("devices"); // what the window's "我的设备" reads as
 
         QTest::newRow("first entry shipped") << QStringList{"de-DE", "en-US"} << "ORBEStudio_de_DE"
-                                             << "已连接";
+                                             << "我的设备";
         QTest::newRow("first not shipped, second is")
             << QStringList{"fr-CA", "en-US"} << "ORBEStudio_en_US"
-            << "Connected";
+            << "My devices";
         QTest::newRow("bare language takes its default country")
             << QStringList{"en"} << "ORBEStudio_en_US"
-            << "Connected";
+            << "My devices";
         QTest::newRow("script tag") << QStringList{"zh-Hant-TW"} << "ORBEStudio_zh_TW"
-                                    << "已连接";
+                                    << "我的设备";
         QTest::newRow("nothing shipped")
-            << QStringList{"es-ES", "pt-BR", "en-GB"} << QString() << "已连接";
-        QTest::newRow("empty list") << QStringList{} << QString() << "已连接";
+            << QStringList{"es-ES", "pt-BR", "en-GB"} << QString() << "我的设备";
+        QTest::newRow("empty list") << QStringList{} << QString() << "我的设备";
     }
     void translationChoice()
     {
         QFETCH(QStringList, uiLanguages);
         QFETCH(QString, loaded);
-        QFETCH(QString, connected);
+        QFETCH(QString, devices);
 
         QTranslator translator;
         QCOMPARE(AppStartup::installAppTranslation(translator, uiLanguages), loaded);
-        QCOMPARE(QCoreApplication::translate("MainWindow", "已连接"), connected);
+        QCOMPARE(QCoreApplication::translate("MainWindow", "我的设备"), devices);
         // Installed exactly when something loaded.
         QCOMPARE(QCoreApplication::removeTranslator(&translator), !loaded.isEmpty());
     }
@@ -145,65 +140,6 @@ private slots:
             after.append(QString::fromLocal8Bit(argv[i]));
         QCOMPARE(after, rest);
         QCOMPARE(argv[argc], nullptr);
-    }
-
-    // The window selects the profile the keyboard reports, reads it and shows the values.
-    void windowShowsTheReportedProfile_data()
-    {
-        QTest::addColumn<int>("profile");
-        QTest::addColumn<int>("rateCode");
-        QTest::addColumn<QString>("rateText");
-        QTest::newRow("profile 0, 1000 hz") << 0 << 3 << "1000 hz";
-        QTest::newRow("profile 2, 8000 hz") << 2 << 0 << "8000 hz";
-        QTest::newRow("profile 3, 125 hz") << 3 << 6 << "125 hz";
-    }
-    void windowShowsTheReportedProfile()
-    {
-        QFETCH(int, profile);
-        QFETCH(int, rateCode);
-        QFETCH(QString, rateText);
-
-        ManualClock clock;
-        auto backend = std::make_unique<VirtualHidBackend>(&clock);
-        VirtualKeyboard* keyboard = backend->addWiredKeyboard(0x123, 0x0500);
-        QByteArray frame(64, '\0');
-        frame[0] = 0x04;
-        frame[1] = char(profile);
-        keyboard->model().handle(frame);
-        frame.fill('\0');
-        frame[0] = 0x03;
-        frame[2] = char(rateCode);
-        keyboard->model().handle(frame);
-        keyboard->model().clearReceivedFrames();
-
-        MainWindow window(std::move(backend), &clock);
-        DialogDeviceConnect* device = window.connection();
-        bool done = false;
-        connect(device, &DialogDeviceConnect::onReadDone, this, [&] { done = true; });
-        QVERIFY(clock.advanceUntil([&] { return done; }, 20000));
-
-        QCOMPARE(int(keyboard->model().profile()), profile);
-        QCOMPARE(int(device->GetCurrentProfile()), profile);
-        auto text = [&](const char* name) {
-            auto* label = window.findChild<QLabel*>(QLatin1String(name));
-            return label ? label->text() : QString();
-        };
-        QCOMPARE(text("profileValue"), QString::number(profile + 1));
-        QCOMPARE(text("reportRateValue"), rateText);
-        QCOMPARE(text("firmwareValue"), "0x500");
-        QCOMPARE(text("deviceIdValue"), "291 (0x123)");
-        QCOMPARE(text("versionLabel"), "Ver:0x500 Id:291[123]");
-        QCOMPARE(text("stateLabel"), "已连接");
-        QVERIFY(text("readDoneLabel").startsWith("读取完成："));
-    }
-
-    void windowWithoutKeyboardSaysSo()
-    {
-        ManualClock clock;
-        MainWindow window(std::make_unique<VirtualHidBackend>(&clock), &clock);
-        clock.advance(1000);
-        QCOMPARE(window.findChild<QLabel*>("stateLabel")->text(), "未找到键盘");
-        QVERIFY(!window.connection()->isConnected());
     }
 };
 

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="zh_CN">
 <context>
+    <name>DialogDeviceConsole</name>
+    <message>
+        <source>Orbe Studio 设备调试</source>
+        <translation>Orbe Studio device debugging</translation>
+    </message>
+</context>
+<context>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
@@ -41,6 +48,68 @@
     </message>
 </context>
 <context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Key settings</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Magnetic switches</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Macros</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Lighting effects</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>User</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>板载 %1</source>
+        <translation>Onboard %1</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Pairing</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Restore defaults</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Travel calibration</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Lighting</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceShow</name>
+    <message>
+        <source>剩余电量</source>
+        <translation>Battery</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -63,90 +132,58 @@
     <name>LinearFixing1</name>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Travel calibration</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
-        <source>重新连接</source>
-        <translation>Reconnect</translation>
-    </message>
-    <message>
-        <source>设备 ID</source>
-        <translation>Device ID</translation>
-    </message>
-    <message>
-        <source>固件版本</source>
-        <translation>Firmware version</translation>
-    </message>
-    <message>
-        <source>板载配置</source>
-        <translation>Onboard profile</translation>
-    </message>
-    <message>
-        <source>键盘回报率</source>
-        <translation>Report rate</translation>
-    </message>
-    <message>
-        <source>按键防抖等级</source>
-        <translation>Debounce level</translation>
-    </message>
-    <message>
-        <source>蓝牙关闭背光</source>
-        <translation>Backlight off (Bluetooth)</translation>
-    </message>
-    <message>
-        <source>2.4G关闭背光</source>
-        <translation>Backlight off (2.4G)</translation>
-    </message>
-    <message>
-        <source>蓝牙深度睡眠时间</source>
-        <translation>Deep sleep (Bluetooth)</translation>
-    </message>
-    <message>
-        <source>2.4G深度睡眠时间</source>
-        <translation>Deep sleep (2.4G)</translation>
-    </message>
-    <message>
-        <source>键盘 VID %1 PID %2</source>
-        <translation>Keyboard VID %1 PID %2</translation>
-    </message>
-    <message>
-        <source>正在查找键盘…</source>
-        <translation>Looking for the keyboard…</translation>
-    </message>
-    <message>
-        <source>未找到键盘</source>
-        <translation>No keyboard found</translation>
-    </message>
-    <message>
-        <source>已找到键盘，但无法打开（权限不足？）</source>
-        <translation>Keyboard found but it cannot be opened (permissions?)</translation>
-    </message>
-    <message>
-        <source>已连接</source>
-        <translation>Connected</translation>
-    </message>
-    <message>
-        <source>正在读取键盘数据…</source>
-        <translation>Reading the keyboard…</translation>
-    </message>
-    <message>
-        <source>尚未读取键盘数据</source>
-        <translation>Nothing read from the keyboard yet</translation>
-    </message>
-    <message>
-        <source>读取完成：%1（用时 %2 秒）</source>
-        <translation>Read complete: %1 (took %2 s)</translation>
-    </message>
-    <message>
-        <source>未知（%1）</source>
-        <translation>unknown (%1)</translation>
-    </message>
-    <message>
         <source>设置</source>
         <translation>Settings</translation>
+    </message>
+    <message>
+        <source>我的设备</source>
+        <translation>My devices</translation>
+    </message>
+    <message>
+        <source>显示窗口</source>
+        <translation>Show window</translation>
+    </message>
+    <message>
+        <source>隐藏窗口</source>
+        <translation>Hide window</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>正在搜索设备</source>
+        <translation>Searching for devices</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>确定要退出 ORBE 驱动程序？</source>
+        <translation>Quit the ORBE driver?</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>Minimise</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>Search again</translation>
+    </message>
+    <message>
+        <source>点击设备进入设置</source>
+        <translation>Click a device to set it up</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="zh_CN">
 <context>
+    <name>DialogDeviceConsole</name>
+    <message>
+        <source>Orbe Studio 设备调试</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
@@ -41,6 +48,68 @@
     </message>
 </context>
 <context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>板载 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceShow</name>
+    <message>
+        <source>剩余电量</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -69,83 +138,51 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>重新连接</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>设备 ID</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>固件版本</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>板载配置</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>键盘回报率</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>按键防抖等级</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>蓝牙关闭背光</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>2.4G关闭背光</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>蓝牙深度睡眠时间</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>2.4G深度睡眠时间</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>键盘 VID %1 PID %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>正在查找键盘…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>未找到键盘</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>已找到键盘，但无法打开（权限不足？）</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>已连接</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>正在读取键盘数据…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>尚未读取键盘数据</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>读取完成：%1（用时 %2 秒）</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>未知（%1）</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>我的设备</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示窗口</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>隐藏窗口</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在搜索设备</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定要退出 ORBE 驱动程序？</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>点击设备进入设置</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -1,350 +1,495 @@
 #include "MainWindow.h"
 
 #include "AppLog.h"
+#include "BatteryPoller.h"
 #include "Clock.h"
+#include "DeviceEnumInfo.h"
+#include "DeviceRegistry.h"
 #include "DialogDeviceConnect.h"
+#include "FrameDeviceHolder.h"
+#include "FrameDeviceShow.h"
 #include "FrameSystemInfo.h"
 #include "HidBackend.h"
 #include "ModuleLangMenu.h"
+#include "OrbeDeviceEnum.h"
 #include "Platform.h"
+#include "ScanDebounce.h"
+#include "SingleInstance.h"
+#include "USBNotifier.h"
+#include "VirtualHidBackend.h"
 
+#include <QAction>
+#include <QCoreApplication>
 #include <QDialog>
-#include <QEvent>
-#include <QGridLayout>
+#include <QDir>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
-#include <QTime>
-#include <QTimer>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QStandardPaths>
+#include <QSystemTrayIcon>
 #include <QVBoxLayout>
 #include <array>
 
 namespace {
 
-constexpr quint16 kVendorUsagePage = 0xFFFF;
-
-// Report rate codes on the wire, in the order the keyboard numbers them.
-constexpr std::array<const char*, 7> kReportRates{
-    "8000 hz", "4000 hz", "2000 hz", "1000 hz", "500 hz", "250 hz", "125 hz",
-};
-
-const char* const kStyle = R"(
-MainWindow { background-color: #FFFFFF; }
-QFrame#header { background-color: #6329B6; }
-QLabel#titleLabel { color: #FFFFFF; font-size: 20px; font-weight: 600; }
-QFrame#card { background-color: #FFFFFF; border: 1px solid #EAEAEA; border-radius: 12px; }
-QLabel#stateLabel { font-size: 16px; font-weight: 600; color: #1A1A1A; }
-QLabel#targetLabel, QLabel#readDoneLabel { color: #808080; }
-QLabel#versionLabel { color: #6329B6; font-weight: 500; }
-QLabel[role="caption"] { color: #808080; }
-QLabel[role="value"] { color: #1A1A1A; font-weight: 500; }
-QPushButton#reconnectButton { background-color: #6329B6; color: #FFFFFF; border: none;
-    border-radius: 8px; padding: 6px 18px; font-size: 14px; }
-QPushButton#reconnectButton:hover { background-color: #7A45C9; }
-QPushButton#reconnectButton:pressed { background-color: #4F2092; }
-QPushButton#pushButtonLang, QPushButton#pushButtonSet { background-color: transparent;
-    color: #FFFFFF; border: 1px solid rgba(255, 255, 255, 0.5); border-radius: 14px;
-    padding: 4px 14px; font-size: 13px; }
-QPushButton#pushButtonLang:hover, QPushButton#pushButtonSet:hover {
-    background-color: rgba(255, 255, 255, 0.15); }
-)";
-
+const char* const kWindowStyle = "QMainWindow{ background-color: rgba(255, 255, 255, 1); border: "
+                                 "1px solid skyblue; border-radius: 20px; }";
 // The settings dialog's mask.
 const char* const kSystemInfoMaskStyle =
     "QDialog { background-color: rgba(220, 220, 220, 0.96); border: none; border-radius: 20px; }";
 constexpr QSize kLanguageMenuSize(110, 280);
 constexpr int kLanguageMenuShift = 10;
+constexpr int kCardSpacing = 20;
+constexpr double kArrowOpacity = 0.6;
+
+// The window's timers.
 constexpr int kSavedLanguageDelayMs = 10;
+constexpr int kEscapeWatchMs = 30;
+constexpr int kReturnWatchMs = 100;
+constexpr int kEmptyListWatchMs = 100;
+constexpr int kRaiseWatchMs = 200;
+constexpr int kFirstScanMs = 500;
+constexpr int kCardPageScanMs = 30000;
+constexpr int kOtherPageScanMs = 60000;
+constexpr int kLockWatchMs = 5000;
+constexpr qint64 kLockedIdleMs = 301000;
+constexpr int kShowFromTrayFromMs = 50;
+constexpr int kShowFromTrayUntilMs = 1500;
 
-QLabel* makeLabel(const char* objectName, QWidget* parent)
+// What the window writes at start so that nothing left from an earlier run pulls it back or
+// hands a stale device to a sibling driver.
+struct SharedValue
 {
-    auto* label = new QLabel(parent);
-    label->setObjectName(QLatin1String(objectName));
-    return label;
-}
+    const char* key;
+    QVariant value;
+};
+const std::array<SharedValue, 10> kStartValues{{
+    {"OrbeReturn", 0},
+    {"TarnwickReturn", 0},
+    {"OrbeWnd", 0u},
+    {"iotManagerInitialized", false},
+    {"ShowWindowControlButtons", false},
+    {"PageLoaded", false},
+    {"DeviceId", 0},
+    {"DevicePath", QString()},
+    {"VendorDevicePath", QString()},
+    {"ByDeviceUuid", QString()},
+}};
 
-QString dotStyle(const char* colour)
-{
-    return QStringLiteral("border-radius: 6px; background-color: %1;").arg(QLatin1String(colour));
-}
+// The native keyboards of the cloud family; any other member goes to its sibling driver.
+constexpr std::array<quint64, 2> kNativeIds{0x0AF7, 0x0EC3};
+const char* const kNativeNameMark = "7090";
 
-QString sleepText(quint16 seconds)
+QString instanceKey(bool tarnwickBuild)
 {
-    if (seconds % 60 == 0) return QStringLiteral("%1 min").arg(seconds / 60);
-    return QStringLiteral("%1 s").arg(seconds);
+    const QString key =
+        QLatin1String(tarnwickBuild ? SingleInstance::kTarnwickKey : SingleInstance::kOrbeKey);
+    // Tests run windows in parallel processes: each gets a segment of its own.
+    if (QStandardPaths::isTestModeEnabled())
+        return key + QStringLiteral("-test-%1").arg(QCoreApplication::applicationPid());
+    return key;
 }
 
 } // namespace
 
-MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, QWidget* parent)
-    : QWidget(parent), hid(std::move(backend)), clock(clk ? clk : QtClock::shared()),
-      device(std::make_unique<DialogDeviceConnect>(hid.get(), clock))
+MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, const QString& dir,
+                       QWidget* parent)
+    : QMainWindow(parent), clock(clk ? clk : QtClock::shared()),
+      appDir(dir.isEmpty() ? QCoreApplication::applicationDirPath() : dir), hid(std::move(backend)),
+      registry(std::make_unique<DeviceRegistry>(hid.get(), clock, appDir)),
+      poller(std::make_unique<BatteryPoller>(hid.get(), clock))
 {
-    buildUi();
+    FrameDeviceShow::setContext({.clock = clock, .poller = poller.get(), .appDir = appDir});
+    registry->setTarnwickBuild(tarnwickBuild);
+    registry->setWindowShown(false); // until shown: a hidden window doesn't scan
 
-    DialogDeviceConnect* d = device.get();
-    connect(d, &DialogDeviceConnect::onConnect, this, [this] {
-        setLinkState(device->isConnected() ? LinkState::Connected : LinkState::NotOpened);
-    });
-    connect(d, &DialogDeviceConnect::onDisconnect, this, [this] {
-        // Listed but not opened is the Linux permission case; tell it apart from absence.
-        bool okVid = false;
-        bool okPid = false;
-        const quint16 vid = device->vidText().trimmed().toUShort(&okVid, 16);
-        const quint16 pid = device->pidText().trimmed().toUShort(&okPid, 16);
-        bool listed = false;
-        if (okVid && okPid)
-            for (const HidDeviceInfo& e : hid->enumerate(vid, pid))
-                listed = listed || e.usagePage == kVendorUsagePage;
-        setLinkState(listed ? LinkState::NotOpened : LinkState::NotFound);
-    });
-    connect(d, &DialogDeviceConnect::versionTextChanged, this, [this](const QString& text) {
-        versionLabel->setText(text);
-        // Taken now: the connection's own version field reads 0 once a read sequence began.
-        reportedVersion = device->GetFirmwareVersion();
-        reportedId = device->GetDeviceId();
-        identityKnown = true;
-        refreshValues();
-    });
-    // What the device page's layer buttons do: select the profile, which reads it whole.
-    connect(d, &DialogDeviceConnect::onUpdataLayer, this,
-            [this](int layer) { device->DoSetProfile(static_cast<quint8>(layer)); });
-    connect(d, &DialogDeviceConnect::onReadAll, this, &MainWindow::onReadAllStarted);
-    connect(d, &DialogDeviceConnect::onReadDone, this, &MainWindow::onReadFinished);
-    connect(reconnectButton, &QPushButton::clicked, this, &MainWindow::connectKeyboard);
+    // 1-3: the form, then the single-instance guard and its watch.
+    ui.setupUi(this, hid.get(), clock);
+    claimSingleInstance();
 
+    // 4-6: the frameless window and the card page.
+    setWindowFlags(windowFlags() | Qt::FramelessWindowHint | Qt::MSWindowsFixedSizeDialogHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setWindowTitle(QLatin1String(tarnwickBuild ? "Tarnwick Dirver Hub" : "Orbe Dirver Hub"));
+    setStyleSheet(QLatin1String(kWindowStyle));
+    renameImagesWithBlanks();
+    ui.stackedWidget->hide();
+    ui.labelPrev->hide();
+    ui.labelNext->hide();
+    ui.cardLayout->setSpacing(kCardSpacing);
+    ui.scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    ui.scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    // 7: language menu and settings.
     langMenu = new ModuleLangMenu(this);
     connect(langMenu, &ModuleLangMenu::onLangChanged, this, &MainWindow::applyLanguage);
-    connect(langButton, &QPushButton::clicked, this, &MainWindow::showLanguageMenu);
-    connect(setButton, &QPushButton::clicked, this, &MainWindow::openSystemInfo);
-    QTimer::singleShot(kSavedLanguageDelayMs, this, &MainWindow::selectSavedLanguage);
+    connect(ui.pushButtonLang, &QPushButton::clicked, this, &MainWindow::showLanguageMenu);
+    connect(ui.pushButtonSet, &QPushButton::clicked, this, &MainWindow::openSystemInfo);
 
-    retranslateUi();
-    connectKeyboard();
+    // 8-9: the empty-list watch and the floating arrows.
+    emptyListTimer = clock->createTimer([this] { watchEmptyList(); }, false);
+    createFloats();
+
+    // 10-12: discovery thread, filters, arrow hiding.
+    enumThread = std::make_unique<OrbeDeviceEnum>();
+    enumThread->setOwner(registry.get());
+    for (QObject* watched : std::initializer_list<QObject*>{
+             ui.labelPrev, ui.labelNext, floatPrev, floatNext, floatReturn, ui.labelLogo,
+             ui.scrollArea, ui.scrollArea->viewport()})
+        watched->installEventFilter(this);
+    arrowHideTimer = clock->createTimer(
+        [this] {
+            arrowHideTimer->stop();
+            floatPrev->hide();
+            floatNext->hide();
+        },
+        true);
+
+    // 13: hot-plug, debounced into one scan. Under --simulate the virtual devices report here.
+    USBNotifier* notifier = USBNotifier::instance(this);
+    debounce = new ScanDebounce(
+        clock, [this] { enumThread->requestScan(); }, this);
+    connect(notifier, &USBNotifier::devicePluggined, debounce, &ScanDebounce::onDevicePluggined);
+    connect(notifier, &USBNotifier::devicePluggined, connection(),
+            &DialogDeviceConnect::onDevicePluggined);
+    if (auto* virtualSet = dynamic_cast<VirtualHidBackend*>(hid.get())) {
+        QPointer<USBNotifier> target(notifier);
+        virtualSet->setPlugListener([target](bool) {
+            if (target) target->reportDeviceChange();
+        });
+    } else if (!notifier->startWatching()) {
+        qCWarning(lcApp) << "no hot-plug notices: new devices show at the next periodic scan";
+    }
+
+    // 15-16: tray, counts, the first page.
+    createTray();
+    updateCounts();
+    setPage(CardPage);
+    connect(ui.frameHold, &FrameDeviceHolder::onReturn, this, [this] { setPage(CardPage); });
+
+    // 17: the saved language replaces the system's a moment later.
+    clock->singleShot(kSavedLanguageDelayMs, this, [this] { selectSavedLanguage(); });
+
+    // 18: the connection marks the device busy while it reads it whole.
+    DialogDeviceConnect* link = connection();
+    connect(link, &DialogDeviceConnect::onUpdataLayer, ui.frameHold, &FrameDeviceHolder::setLayer);
+    connect(link, &DialogDeviceConnect::onReadAll, this,
+            [this] { registry->setScanSuspended(true); });
+    connect(link, &DialogDeviceConnect::onReadDone, this,
+            [this] { registry->setScanSuspended(false); });
+    connect(link, &DialogDeviceConnect::onKeyTesting, this,
+            [this](bool testing) { keyTesting = testing; });
+
+    // 19-22.
+    resetSharedValues();
+    connect(ui.pushButtonScan, &QPushButton::clicked, this, &MainWindow::rescan);
+    connect(ui.pushButtonMin, &QPushButton::clicked, this, [this] {
+        showMinimized();
+        lower();
+    });
+    connect(ui.pushButtonExit, &QPushButton::clicked, this, &QWidget::close);
+    startTimers();
+    connect(registry.get(), &DeviceRegistry::oEnumDeiceDone, this, &MainWindow::refreshCards,
+            Qt::QueuedConnection);
+    setWindowMode(true);
 }
 
 MainWindow::~MainWindow()
 {
-    // The connection closes its handles through the backend, so it goes first.
-    device.reset();
+    // The thread before the registry; the pages and the connection before the backend.
+    tearingDown = true;
+    enumThread.reset();
+    if (auto* virtualSet = dynamic_cast<VirtualHidBackend*>(hid.get()))
+        virtualSet->setPlugListener({});
+    delete takeCentralWidget();
+    poller.reset();
+    FrameDeviceShow::setContext({});
+    registry.reset();
 }
 
-void MainWindow::buildUi()
+DialogDeviceConnect* MainWindow::connection() const
 {
-    setObjectName(QStringLiteral("MainWindow"));
-    setAttribute(Qt::WA_StyledBackground, true);
-    setStyleSheet(QLatin1String(kStyle));
-    setMinimumSize(560, 520);
-    resize(640, 580);
+    return ui.frameHold->connection();
+}
 
-    auto* header = new QFrame(this);
-    header->setObjectName(QStringLiteral("header"));
-    header->setFixedHeight(64);
-    auto* headerLayout = new QHBoxLayout(header);
-    headerLayout->setContentsMargins(24, 0, 24, 0);
-    titleLabel = makeLabel("titleLabel", header);
-    headerLayout->addWidget(titleLabel);
-    headerLayout->addStretch();
-    langButton = new QPushButton(header);
-    langButton->setObjectName(QStringLiteral("pushButtonLang"));
-    setButton = new QPushButton(header);
-    setButton->setObjectName(QStringLiteral("pushButtonSet"));
-    for (QPushButton* button : {langButton, setButton}) {
-        button->setCursor(Qt::PointingHandCursor);
-        button->setFocusPolicy(Qt::NoFocus);
-        headerLayout->addWidget(button);
+void MainWindow::claimSingleInstance()
+{
+    instanceGuard = std::make_unique<SingleInstance>(instanceKey(tarnwickBuild));
+    if (!instanceGuard->claim()) {
+        hide();
+        std::exit(0);
     }
+    raiseTimer = clock->createTimer([this] { watchRaiseRequest(); }, false);
+}
 
-    auto* card = new QFrame(this);
-    card->setObjectName(QStringLiteral("card"));
-    auto* cardLayout = new QVBoxLayout(card);
-    cardLayout->setContentsMargins(24, 20, 24, 20);
-    cardLayout->setSpacing(10);
+void MainWindow::watchRaiseRequest()
+{
+    if (!instanceGuard->takeRaiseRequest()) return;
+    qCDebug(lcApp) << "a second start asks this hub to come forward";
+    showNormal();
+    raise();
+    activateWindow();
+    setFocus();
+}
 
-    auto* stateLine = new QHBoxLayout();
-    stateDot = makeLabel("stateDot", card);
-    stateDot->setFixedSize(12, 12);
-    stateLabel = makeLabel("stateLabel", card);
-    reconnectButton = new QPushButton(card);
-    reconnectButton->setObjectName(QStringLiteral("reconnectButton"));
-    reconnectButton->setCursor(Qt::PointingHandCursor);
-    reconnectButton->setFocusPolicy(Qt::NoFocus);
-    stateLine->addWidget(stateDot);
-    stateLine->addSpacing(8);
-    stateLine->addWidget(stateLabel, 1);
-    stateLine->addWidget(reconnectButton);
-    cardLayout->addLayout(stateLine);
+void MainWindow::renameImagesWithBlanks()
+{
+    QDir dir(imagesDir());
+    for (const QString& name : dir.entryList(QDir::Files)) {
+        if (!name.contains(u' ')) continue;
+        const QString renamed = QString(name).replace(u' ', u'-');
+        if (!dir.rename(name, renamed)) qCDebug(lcApp) << "could not rename" << name;
+    }
+}
 
-    targetLabel = makeLabel("targetLabel", card);
-    versionLabel = makeLabel("versionLabel", card);
-    versionLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    readDoneLabel = makeLabel("readDoneLabel", card);
-    cardLayout->addWidget(targetLabel);
-    cardLayout->addWidget(versionLabel);
-    cardLayout->addWidget(readDoneLabel);
-
-    auto* separator = new QFrame(card);
-    separator->setFixedHeight(1);
-    separator->setStyleSheet(QStringLiteral("background-color: #EAEAEA; border: none;"));
-    cardLayout->addSpacing(4);
-    cardLayout->addWidget(separator);
-    cardLayout->addSpacing(4);
-
-    auto* grid = new QGridLayout();
-    grid->setHorizontalSpacing(24);
-    grid->setVerticalSpacing(10);
-    grid->setColumnStretch(1, 1);
-    int line = 0;
-    auto addRow = [&](Row& row, const QString& name) {
-        row.caption = new QLabel(card);
-        row.caption->setProperty("role", "caption");
-        row.value = new QLabel(card);
-        row.value->setObjectName(name);
-        row.value->setProperty("role", "value");
-        row.value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        grid->addWidget(row.caption, line, 0);
-        grid->addWidget(row.value, line, 1);
-        ++line;
+void MainWindow::createFloats()
+{
+    auto makeFloat = [this](const char* name) {
+        auto* dialog = new QDialog(this, Qt::Tool | Qt::FramelessWindowHint);
+        dialog->setObjectName(QLatin1String(name));
+        dialog->setAttribute(Qt::WA_TranslucentBackground);
+        dialog->setCursor(Qt::PointingHandCursor);
+        return dialog;
     };
-    addRow(deviceIdRow, QStringLiteral("deviceIdValue"));
-    addRow(firmwareRow, QStringLiteral("firmwareValue"));
-    addRow(profileRow, QStringLiteral("profileValue"));
-    addRow(reportRateRow, QStringLiteral("reportRateValue"));
-    addRow(debounceRow, QStringLiteral("debounceValue"));
-    for (int i = 0; i < 4; ++i)
-        addRow(sleepRows[i], QStringLiteral("sleepValue%1").arg(i));
-    cardLayout->addLayout(grid);
-    cardLayout->addStretch();
-
-    auto* body = new QVBoxLayout();
-    body->setContentsMargins(24, 24, 24, 24);
-    body->addWidget(card);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(header);
-    layout->addLayout(body, 1);
+    floatPrev = makeFloat("floatPrev");
+    floatNext = makeFloat("floatNext");
+    floatReturn = makeFloat("floatReturn");
+    floatPrev->setWindowOpacity(kArrowOpacity);
+    floatNext->setWindowOpacity(kArrowOpacity);
 }
 
-void MainWindow::retranslateUi()
+void MainWindow::createTray()
 {
-    setWindowTitle(QStringLiteral("OrbeHub"));
-    titleLabel->setText(QStringLiteral("OrbeHub"));
-    reconnectButton->setText(tr("重新连接"));
-    langButton->setText(language.languageText());
-    setButton->setText(tr("设置"));
-    deviceIdRow.caption->setText(tr("设备 ID"));
-    firmwareRow.caption->setText(tr("固件版本"));
-    profileRow.caption->setText(tr("板载配置"));
-    reportRateRow.caption->setText(tr("键盘回报率"));
-    debounceRow.caption->setText(tr("按键防抖等级"));
-    // Sleep slots in the keyboard's order.
-    sleepRows[0].caption->setText(tr("蓝牙关闭背光"));
-    sleepRows[1].caption->setText(tr("2.4G关闭背光"));
-    sleepRows[2].caption->setText(tr("蓝牙深度睡眠时间"));
-    sleepRows[3].caption->setText(tr("2.4G深度睡眠时间"));
-    showLinkState();
-    refreshValues();
-}
-
-void MainWindow::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange) retranslateUi();
-    QWidget::changeEvent(event);
-}
-
-void MainWindow::connectKeyboard()
-{
-    setLinkState(LinkState::Searching);
-    qCDebug(lcApp) << "connecting to" << device->vidText() << device->pidText();
-    device->connectStep();
-}
-
-void MainWindow::setLinkState(LinkState state)
-{
-    linkState = state;
-    showLinkState();
-}
-
-void MainWindow::showLinkState()
-{
-    targetLabel->setText(
-        tr("键盘 VID %1 PID %2").arg(device->vidText().trimmed(), device->pidText().trimmed()));
-    if (versionLabel->text().isEmpty()) versionLabel->setText(device->versionText());
-
-    const char* colour = "#B3B3B3";
-    switch (linkState) {
-    case LinkState::Searching:
-        stateLabel->setText(tr("正在查找键盘…"));
-        break;
-    case LinkState::NotFound:
-        stateLabel->setText(tr("未找到键盘"));
-        colour = "#D9534F";
-        break;
-    case LinkState::NotOpened:
-        stateLabel->setText(tr("已找到键盘，但无法打开（权限不足？）"));
-        colour = "#F0AD4E";
-        break;
-    case LinkState::Connected:
-        stateLabel->setText(tr("已连接"));
-        colour = "#3CB371";
-        break;
-    case LinkState::Reading:
-        stateLabel->setText(tr("正在读取键盘数据…"));
-        colour = "#6329B6";
-        break;
+    actionShow = new QAction(this);
+    actionHide = new QAction(this);
+    actionQuit = new QAction(this);
+    connect(actionQuit, &QAction::triggered, qApp, &QCoreApplication::quit);
+    connect(actionShow, &QAction::triggered, this, [this] {
+        showNormal();
+        raise();
+        Platform::instance().keepOnTopForAWhile(this, winId(), kShowFromTrayFromMs,
+                                                kShowFromTrayUntilMs);
+    });
+    connect(actionHide, &QAction::triggered, this, [this] {
+        hide();
+        trayHidden = true;
+    });
+    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
+        qCDebug(lcApp) << "no system tray here";
+        return;
     }
-    stateDot->setStyleSheet(dotStyle(colour));
-    reconnectButton->setEnabled(linkState != LinkState::Reading);
-
-    if (lastReadTime.isEmpty())
-        readDoneLabel->setText(tr("尚未读取键盘数据"));
-    else
-        readDoneLabel->setText(tr("读取完成：%1（用时 %2 秒）")
-                                   .arg(lastReadTime)
-                                   .arg(double(lastReadMs) / 1000.0, 0, 'f', 2));
+    trayIcon = new QSystemTrayIcon(QIcon(QStringLiteral(":/images/logo.png")), this);
+    auto* menu = new QMenu(this);
+    menu->addAction(actionShow);
+    menu->addAction(actionHide);
+    menu->addSeparator();
+    menu->addAction(actionQuit);
+    trayIcon->setContextMenu(menu);
+    connect(trayIcon, &QSystemTrayIcon::activated, this,
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                if (reason == QSystemTrayIcon::Context) return;
+                if (!isHidden() && !isMinimized())
+                    hide();
+                else
+                    showNormal();
+            });
+    trayIcon->setVisible(true);
 }
 
-void MainWindow::refreshValues()
+void MainWindow::resetSharedValues()
 {
-    const QString none = QStringLiteral("—");
-    deviceIdRow.value->setText(
-        identityKnown ? QString::asprintf("%u (0x%03X)", reportedId, reportedId) : none);
-    firmwareRow.value->setText(identityKnown ? QString::asprintf("0x%03X", reportedVersion) : none);
-
-    const bool read = !lastReadTime.isEmpty();
-    profileRow.value->setText(read ? QString::number(device->GetCurrentProfile() + 1) : none);
-    const quint8 rate = device->GetReportRate();
-    reportRateRow.value->setText(!read                        ? none
-                                 : rate < kReportRates.size() ? QLatin1String(kReportRates[rate])
-                                                              : tr("未知（%1）").arg(rate));
-    debounceRow.value->setText(read ? QString::number(device->GetDebounce()) : none);
-    const auto& sleep = device->GetSleepTimes();
-    for (int i = 0; i < 4; ++i)
-        sleepRows[i].value->setText(read ? sleepText(sleep[i]) : none);
+    Platform& platform = Platform::instance();
+    for (const SharedValue& value : kStartValues)
+        platform.setUserValue(QLatin1String(value.key), value.value);
 }
 
-void MainWindow::onReadAllStarted()
+void MainWindow::startTimers()
 {
-    readStartedMs = clock->elapsedMs();
-    setLinkState(LinkState::Reading);
+    auto repeating = [this](int ms, void (MainWindow::*work)()) {
+        auto timer = clock->createTimer([this, work] { (this->*work)(); }, false);
+        timer->start(ms);
+        return timer;
+    };
+    escapeTimer = repeating(kEscapeWatchMs, &MainWindow::watchEscape);
+    returnTimer = repeating(kReturnWatchMs, &MainWindow::watchReturn);
+    emptyListTimer->start(kEmptyListWatchMs);
+    raiseTimer->start(kRaiseWatchMs);
+    lockTimer = repeating(kLockWatchMs, &MainWindow::watchLock);
+    scanTimer = clock->createTimer([this] { scanTick(); }, true);
+    scanTimer->start(kFirstScanMs);
 }
 
-void MainWindow::onReadFinished()
+void MainWindow::scanTick()
 {
-    lastReadMs = readStartedMs >= 0 ? clock->elapsedMs() - readStartedMs : 0;
-    lastReadTime = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
-    qCDebug(lcApp) << "read done after" << lastReadMs << "ms";
-    setLinkState(device->isConnected() ? LinkState::Connected : LinkState::NotOpened);
-    refreshValues();
+    enumThread->requestScan();
+    scanTimer->start(ui.stackedWidget->currentIndex() == CardPage ? kCardPageScanMs
+                                                                  : kOtherPageScanMs);
+}
+
+void MainWindow::watchEmptyList()
+{
+    const bool empty = ui.cardLayout->isEmpty();
+    if (empty == cardsWereEmpty && ui.stackedWidget->isHidden() == empty) return;
+    cardsWereEmpty = empty;
+    ui.stackedWidget->setHidden(empty);
+    ui.labelLogo->setHidden(empty);
+    update();
+}
+
+void MainWindow::watchEscape()
+{
+    if (Platform::instance().keyState(Platform::KeyEscape) >= 0 || keyTesting) return;
+    qCDebug(lcApp) << "OrbeReturn 0";
+    Platform::instance().setUserValue(QStringLiteral("OrbeReturn"), 1);
+    setPage(CardPage);
+}
+
+void MainWindow::watchLock()
+{
+    Platform& platform = Platform::instance();
+    if (platform.isSessionLocked() && platform.millisecondsSinceInput() >= kLockedIdleMs)
+        platform.setUserValue(QStringLiteral("OrbeReturn"), 1);
+}
+
+void MainWindow::watchReturn()
+{
+    Platform& platform = Platform::instance();
+    const bool asked = platform.userValue(QStringLiteral("OrbeReturn")).toInt() != 0 ||
+                       platform.userValue(QStringLiteral("TarnwickReturn")).toInt() != 0;
+    if (!asked || !returnArmed) return;
+    qCDebug(lcApp) << "Action OrbeReturn";
+    platform.setUserValue(QStringLiteral("OrbeReturn"), 0);
+    platform.setUserValue(QStringLiteral("TarnwickReturn"), 0);
+    returnToCards();
+    clock->singleShot(200, this, [this] {
+        show();
+        raise();
+    });
+}
+
+void MainWindow::returnToCards()
+{
+    setPage(CardPage);
+    floatReturn->hide();
+    hostedFamily = -1;
+    hostedDeviceId = 0;
+    hostedDevicePath.clear();
+    currentDevice = nullptr;
+    registry->setCurrentDevice(nullptr);
+    registry->setHostedWindow(false);
+}
+
+void MainWindow::setPage(int index)
+{
+    ui.stackedWidget->setCurrentIndex(index);
+}
+
+void MainWindow::rescan()
+{
+    setWindowMode(true);
+    floatReturn->hide();
+    setPage(CardPage);
+    registry->clear();
+    while (QLayoutItem* item = ui.cardLayout->takeAt(0)) {
+        if (QWidget* card = item->widget()) card->hide();
+        delete item;
+    }
+    enumThread->requestScan();
+}
+
+void MainWindow::refreshCards()
+{
+    int index = 0;
+    for (DeviceEnumInfo* record : registry->devices()) {
+        if (!record->online) continue;
+        FrameDeviceShow* card = FrameDeviceShow::acquire(index, ui.scrollAreaWidgetContents);
+        if (!card) {
+            qCDebug(lcApp) << "no card left for" << record->displayName;
+            break;
+        }
+        ++index;
+        card->setScrollArea(ui.scrollArea);
+        card->setDevice(record);
+        card->show();
+        if (ui.cardLayout->indexOf(card) < 0) ui.cardLayout->addWidget(card);
+        updateCounts();
+        if (!card->signalsConnected()) {
+            card->setSignalsConnected(true);
+            connect(card, &FrameDeviceShow::onReport, ui.frameHold,
+                    &FrameDeviceHolder::showBattery);
+            connect(card, &FrameDeviceShow::onClicked, this, &MainWindow::openDevice);
+        }
+    }
+    updateCounts();
+}
+
+void MainWindow::updateCounts()
+{
+    const int online = registry->onlineCount();
+    FrameDeviceShow::hideFrom(online);
+    ui.labelInfo0->setText(tr("我的设备") + QStringLiteral("(%1)").arg(online));
+    actionShow->setText(tr("显示窗口"));
+    actionHide->setText(tr("隐藏窗口"));
+    actionQuit->setText(tr("退出程序"));
+    if (trayIcon)
+        trayIcon->setToolTip(
+            QLatin1String(tarnwickBuild ? "Tarnwick Driver" : "ORBE Cloud Driver"));
+    ui.pushButtonLang->setText(language.languageText());
+}
+
+void MainWindow::setWindowMode(bool narrow)
+{
+    const QSize size(narrow ? kNarrowWidth : kWideWidth, kHeight);
+    QPoint origin;
+    if (const QList<QScreen*> screens = QGuiApplication::screens(); !screens.isEmpty()) {
+        const QRect screen = screens.first()->geometry();
+        origin = QPoint(qMax(0, screen.x() + (screen.width() - size.width()) / 2),
+                        qMax(0, screen.y() + (screen.height() - size.height()) / 2));
+    }
+    setFixedSize(size);
+    move(origin);
+}
+
+bool MainWindow::isNative(const DeviceEnumInfo& device) const
+{
+    return std::find(kNativeIds.begin(), kNativeIds.end(), device.deviceId) != kNativeIds.end() ||
+           device.displayName.contains(QLatin1String(kNativeNameMark));
+}
+
+void MainWindow::openDevice(DeviceEnumInfo* device, const QString& deviceImage)
+{
+    if (!device) return;
+    hostedFamily = device->family;
+    hostedDeviceId = device->deviceId;
+    hostedDevicePath = device->devicePath;
+    langMenu->hide();
+    language.setHostedFamily(hostedFamily);
+    if (device->family != DeviceEnumInfo::CloudFamily || !isNative(*device)) {
+        qCDebug(lcApp) << device->displayName << "is served by a sibling driver (family"
+                       << device->family << ")";
+        return;
+    }
+    connection()->DoConnectDevice(device->vendorId, device->productId,
+                                  device->connectionType == DeviceEnumInfo::Bluetooth,
+                                  device->vendorPath, device->devicePath);
+    setPage(DevicePage);
+    ui.frameHold->setDevice(device, deviceImage, device->displayName);
+    // Losing this device brings the cards back.
+    currentDevice = device;
+    registry->setCurrentDevice(device);
 }
 
 void MainWindow::applyLanguage(int index, const QString& text)
 {
     language.setTranslators(appTranslator, qtBaseTranslator, qtTranslator);
+    language.setHostedFamily(hostedFamily);
     language.apply(index, text);
-    langButton->setText(language.languageText());
+    ui.pushButtonLang->setText(language.languageText());
 }
 
 void MainWindow::selectSavedLanguage()
@@ -356,7 +501,8 @@ void MainWindow::selectSavedLanguage()
 void MainWindow::showLanguageMenu()
 {
     if (!langMenu->isHidden()) return;
-    langMenu->move(langButton->mapToGlobal(QPoint(kLanguageMenuShift, langButton->height())));
+    const QWidget* frame = ui.pushButtonLang;
+    langMenu->move(frame->mapToGlobal(QPoint(kLanguageMenuShift, frame->height())));
     langMenu->resize(kLanguageMenuSize);
     langMenu->show();
 }
@@ -379,4 +525,14 @@ void MainWindow::openSystemInfo()
     layout->removeWidget(info);
     info->setParent(nullptr);
     info->deleteLater();
+}
+
+void MainWindow::updateScanGate()
+{
+    registry->setWindowShown(isVisible() && !isMinimized());
+}
+
+QString MainWindow::imagesDir() const
+{
+    return appDir + QStringLiteral("/images/");
 }

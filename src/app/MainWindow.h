@@ -1,90 +1,163 @@
 #pragma once
 
+#include "DialogDeviceConsole.h"
 #include "LanguageSwitch.h"
+#include "MainWindowForm.h"
 
-#include <QWidget>
+#include <QMainWindow>
+#include <QPointer>
+#include <QString>
 #include <memory>
 
+class BatteryPoller;
 class Clock;
+class ClockTimer;
+class DeviceRegistry;
 class DialogDeviceConnect;
+
 class HidBackend;
 class ModuleLangMenu;
-class QLabel;
-class QPushButton;
+class OrbeDeviceEnum;
+class QAction;
+class QDialog;
+class QSystemTrayIcon;
 class QTranslator;
+class ScanDebounce;
+class SingleInstance;
+struct DeviceEnumInfo;
 
-// The hub's window. It owns the HID backend and the one connection, connects to the wired
-// keyboard named in device.ini and shows what the connection has read.
-class MainWindow : public QWidget
+// The hub's frameless window: the cards of the devices found, the page of a native keyboard,
+// the tray icon, and the timers that scan, watch for a second start and bring the user back to
+// the cards. It owns the discovery (registry and thread) and, through the device page shell,
+// the one connection.
+class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    // clock null means the real one; tests pass a manual clock.
+    static constexpr int kNarrowWidth = 1280;
+    static constexpr int kWideWidth = 1520;
+    static constexpr int kHeight = 900;
+    static constexpr int kCornerRadius = 20;
+
+    // The stacked pages.
+    enum Page { CardPage = 0, SiblingPage = 1, DevicePage = 2 };
+
+    // clock null means the real one; tests pass a manual clock. appDir holds "config/" and
+    // "images/"; empty means the application's directory. A second hub leaves in here with
+    // exit code 0, after asking the first to come forward.
     explicit MainWindow(std::unique_ptr<HidBackend> hid, Clock* clock = nullptr,
-                        QWidget* parent = nullptr);
+                        const QString& appDir = QString(), QWidget* parent = nullptr);
     ~MainWindow() override;
-
-    DialogDeviceConnect* connection() const { return device.get(); }
-    ModuleLangMenu* languageMenu() const { return langMenu; }
-
-    // Carries out a choice of the language menu (index into kLanguages, the menu's text).
-    void applyLanguage(int index, const QString& text);
-    // The start-up choice: the saved "lastlang", language 0 when there is none.
-    void selectSavedLanguage();
 
     // Set by main(); the window reloads them when the language changes, it doesn't own them.
     QTranslator* appTranslator = nullptr;
     QTranslator* qtBaseTranslator = nullptr;
     QTranslator* qtTranslator = nullptr;
 
+    DialogDeviceConnect* connection() const;
+    ModuleLangMenu* languageMenu() const { return langMenu; }
+    DeviceRegistry* deviceRegistry() const { return registry.get(); }
+    BatteryPoller* batteryPoller() const { return poller.get(); }
+    FrameDeviceHolder* deviceHolder() const { return ui.frameHold; }
+    // The engineering console, null until it was opened.
+    DialogDeviceConsole* console() const { return engineeringConsole; }
+
+    // Carries out a choice of the language menu (index into kLanguages, the menu's text).
+    void applyLanguage(int index, const QString& text);
+    // The start-up choice: the saved "lastlang", language 0 when there is none.
+    void selectSavedLanguage();
+
+    // One card per online device, in order of first sighting; run after every discovery pass.
+    void refreshCards();
+    // The device count in the title, the tray's texts and the language button.
+    void updateCounts();
+    // 1280 by 900 when narrow, else 1520 by 900, centred on the first screen.
+    void setWindowMode(bool narrow);
+    // A click on a card: a native keyboard opens in the device page.
+    void openDevice(DeviceEnumInfo* device, const QString& deviceImage);
+    // Leaves whatever page is shown for the cards when the return flag is up.
+    void watchReturn();
+
 protected:
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
-    enum class LinkState { Searching, NotFound, NotOpened, Connected, Reading };
-
-    void buildUi();
+    void claimSingleInstance();
+    void renameImagesWithBlanks();
+    void createFloats();
+    void createTray();
+    void startTimers();
+    void resetSharedValues();
     void showLanguageMenu();
     void openSystemInfo();
-    void retranslateUi();
-    void connectKeyboard();
-    void setLinkState(LinkState state);
-    void showLinkState();
-    void refreshValues();
-    void onReadAllStarted();
-    void onReadFinished();
+    void watchRaiseRequest();
+    void watchEmptyList();
+    void watchEscape();
+    void watchLock();
+    void scanTick();
+    void rescan();
+    void scrollCards(int direction);
+    void placeFloats();
+    void paintFloat(QWidget* target);
+    void countLogoClick();
+    void returnToCards();
+    void setPage(int index);
+    void updateScanGate();
+    bool isNative(const DeviceEnumInfo& device) const;
+    QString imagesDir() const;
 
-    std::unique_ptr<HidBackend> hid;
     Clock* clock;
-    std::unique_ptr<DialogDeviceConnect> device;
+    QString appDir;
+    // Declared so that they go in reverse: the thread before the registry it runs, the poller
+    // and the registry before the HID backend they use.
+    std::unique_ptr<HidBackend> hid;
+    std::unique_ptr<DeviceRegistry> registry;
+    std::unique_ptr<BatteryPoller> poller;
+    std::unique_ptr<SingleInstance> instanceGuard;
 
-    LinkState linkState = LinkState::Searching;
-    qint64 readStartedMs = -1;
-    qint64 lastReadMs = -1;
-    QString lastReadTime;
-    quint16 reportedVersion = 0;
-    quint32 reportedId = 0;
-    bool identityKnown = false;
-
-    QLabel* titleLabel = nullptr;
-    QLabel* stateDot = nullptr;
-    QLabel* stateLabel = nullptr;
-    QLabel* targetLabel = nullptr;
-    QLabel* versionLabel = nullptr;
-    QLabel* readDoneLabel = nullptr;
-    QPushButton* reconnectButton = nullptr;
-    QPushButton* langButton = nullptr;
-    QPushButton* setButton = nullptr;
+    MainWindowForm ui;
     ModuleLangMenu* langMenu = nullptr;
     LanguageSwitch language;
+    std::unique_ptr<OrbeDeviceEnum> enumThread;
+    bool tarnwickBuild = false; // the second brand; nothing sets it
+    bool trayHidden = false;
+    QPointF dragOffset;
+    bool dragging = false;
+    bool closing = false;
+    bool pointerInside = true; // kept, never read
+    bool keyTesting = false;
+    QSystemTrayIcon* trayIcon = nullptr;
+    std::unique_ptr<ClockTimer> arrowHideTimer;
+    QDialog* floatPrev = nullptr;
+    QDialog* floatNext = nullptr;
+    QDialog* floatReturn = nullptr;
+    int hostedFamily = -1;
+    quint64 hostedDeviceId = 0;
+    QString hostedDevicePath;
+    DeviceEnumInfo* currentDevice = nullptr;
+    QAction* actionShow = nullptr;
+    QAction* actionHide = nullptr;
+    QAction* actionQuit = nullptr;
+    bool returnArmed = true;
+    bool tearingDown = false; // the widgets the filter looks at are going
+    bool cardsWereEmpty = true;
+    int logoClicks = 0;
+    QPointer<DialogDeviceConsole> engineeringConsole;
 
-    // One row per value: the caption and the value.
-    struct Row
-    {
-        QLabel* caption = nullptr;
-        QLabel* value = nullptr;
-    };
-    Row deviceIdRow, firmwareRow, profileRow, reportRateRow, debounceRow;
-    Row sleepRows[4];
+    ScanDebounce* debounce = nullptr;
+    std::unique_ptr<ClockTimer> raiseTimer;
+    std::unique_ptr<ClockTimer> emptyListTimer;
+    std::unique_ptr<ClockTimer> escapeTimer;
+    std::unique_ptr<ClockTimer> returnTimer;
+    std::unique_ptr<ClockTimer> scanTimer;
+    std::unique_ptr<ClockTimer> lockTimer;
+    std::unique_ptr<ClockTimer> logoClickTimer;
 };

@@ -1,3 +1,4 @@
+#include "AppLog.h"
 #include "AppStartup.h"
 #include "HidBackend.h"
 #include "MainWindow.h"
@@ -40,6 +41,7 @@ int main(int argc, char* argv[])
     AppStartup::loadFonts(root);
 
     app.setStyleSheet(AppStartup::applicationStyleSheet());
+    qCDebug(lcApp) << "style sheet set";
 
     MainWindow window(AppStartup::createHidBackend(simulate));
     window.appTranslator = &appTranslator;

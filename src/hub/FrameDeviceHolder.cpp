@@ -64,11 +64,13 @@ QPushButton:pressed { background-color: #EFE8F8; }
 constexpr int kLabelSize = 56;
 constexpr int kBadgeSize = 25;
 
+// The label's picture when not selected (0) or selected (1).
 QString picture(const NavigationEntry& entry, int state)
 {
     const QString image = QLatin1String(entry.image);
     if (image.startsWith(u':')) return image;
-    return QStringLiteral(":/images/leftbtns/%1/%2.png").arg(state).arg(image);
+    const char* folder = state ? ":/images/leftbtns/1/" : ":/images/leftbtns/0/";
+    return QLatin1String(folder) + image + QStringLiteral(".png");
 }
 
 } // namespace
@@ -114,8 +116,8 @@ void FrameDeviceHolder::buildForm()
 {
     setStyleSheet(QLatin1String(kShellStyle));
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(20, 0, 24, 16);
-    layout->setSpacing(16);
+    layout->setContentsMargins(30, 0, 32, 16);
+    layout->setSpacing(38);
 
     auto* frameLeft = new QFrame(this);
     frameLeft->setObjectName(QStringLiteral("frameLeft"));
