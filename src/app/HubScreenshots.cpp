@@ -87,8 +87,8 @@ int main(int argc, char* argv[])
         case Step::Settle:
             if (waited < kSettleMs) return;
             if (!save(window, out + QStringLiteral("/cards.png"))) app.exit(1);
-            // The wired native keyboard, the first card.
-            click(FrameDeviceShow::acquire(0, nullptr));
+            // The native keyboard on Bluetooth, the second card: its page shows the battery.
+            click(FrameDeviceShow::acquire(1, nullptr));
             step = Step::Shell;
             return;
         case Step::Shell: {

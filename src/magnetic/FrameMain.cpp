@@ -18,8 +18,12 @@ FrameMain::FrameMain(QWidget* parent) : QFrame(parent)
     auto* frameTop = new QFrame(this);
     frameTop->setObjectName(QStringLiteral("frameTop"));
     auto* topLayout = new QHBoxLayout(frameTop);
+    topLayout->setContentsMargins(0, 0, 0, 0);
     auto* frameInfo = new QFrame(frameTop);
     frameInfo->setObjectName(QStringLiteral("frameInfo"));
+    frameInfo->setStyleSheet(
+        QStringLiteral("#frameInfo { background-color: #F6F6F6; border-radius: 24px; }"));
+    frameInfo->setFixedHeight(kPictureBox.height() + 60);
     auto* infoLayout = new QVBoxLayout(frameInfo);
     labelPic = new QLabel(frameInfo);
     labelPic->setObjectName(QStringLiteral("labelPic"));
