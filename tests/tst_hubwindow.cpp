@@ -5,6 +5,7 @@
 
 #include "BatteryPoller.h"
 #include "BatteryReader.h"
+#include "Clock.h"
 #include "DeviceEnumInfo.h"
 #include "DeviceRegistry.h"
 #include "DialogDeviceConnect.h"
@@ -582,6 +583,32 @@ private slots:
         hub.window->refreshCards();
         hub.clock.advance(200);
         QVERIFY(!stack->isHidden());
+    }
+
+    // The whole road in real time: the window shown, the discovery thread's passes, and an
+    // unplugged keyboard's card gone after the hot-plug notice.
+    void unpluggedKeyboardLeavesTheCards()
+    {
+        auto devices = std::make_unique<VirtualHidBackend>(QtClock::shared());
+        VirtualKeyboard* wired = devices->addWiredKeyboard();
+        VirtualKeyboard* wireless = devices->addWirelessKeyboard(0x0EC3);
+        MainWindow window(std::move(devices), nullptr, QStringLiteral(ORBE_BIN_DIR));
+        auto names = [&] {
+            QStringList shown;
+            auto* page = window.findChild<QWidget*>("page00");
+            for (auto* label : page->findChildren<QLabel*>("labelDeviceName"))
+                if (!label->parentWidget()->isHidden()) shown << label->text();
+            shown.sort();
+            return shown;
+        };
+        window.show();
+        QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList({"ORBE HE75", "ORBE HE98"}), 20000);
+
+        wireless->unplug();
+        QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList({"ORBE HE75"}), 20000);
+        QCOMPARE(window.findChild<QLabel*>("labelInfo0")->text(), "我的设备(1)");
+        wired->unplug();
+        QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList(), 20000);
     }
 
     // ---- one hub at a time
