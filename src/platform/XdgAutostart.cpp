@@ -156,7 +156,13 @@ bool XdgAutostart::write(const QString& programPath)
                                          "Terminal=false\n"
                                          "X-GNOME-Autostart-enabled=true\n")
                               .arg(execValue(programPath));
-    file.write(entry.toUtf8());
+    const QByteArray bytes = entry.toUtf8();
+    // Flushed by hand: Qt 6.4's commit() misses a failed final flush and would install a cut file.
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
+        qCWarning(lcPlatform) << "cannot write" << path << file.errorString();
+        file.cancelWriting();
+        return false;
+    }
     if (!file.commit()) {
         qCWarning(lcPlatform) << "cannot write" << path << file.errorString();
         return false;
