@@ -6,17 +6,12 @@
 
 #include "Clock.h"
 #include "HidBackend.h"
+#include "TestSupport.h"
 
 #include <QByteArray>
 #include <QList>
 #include <deque>
 #include <functional>
-
-// Bytes from hex text; blanks are ignored.
-inline QByteArray hex(const char* text)
-{
-    return QByteArray::fromHex(text);
-}
 
 // A keyboard's reply to 8F: id 0x0AF7 and the given firmware version.
 inline QByteArray identity(quint16 version)

@@ -1,40 +1,36 @@
 // The connection: connect step, queue and pump, reply dispatch, input poll and hot-plug path,
 // against a strict scripted backend in virtual time.
 
-#include "DialogDeviceConnect.h"
-#include "FakeHidBackend.h"
+#include "ConnectionRig.h"
 #include "Frame.h"
-#include "ManualClock.h"
 
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest>
-#include <memory>
 
 namespace {
 
-struct Rig
+// A keyboard that names itself, firmware 0x300, and echoes every other command.
+struct Rig : ConnectionRig
 {
-    ManualClock clock;
-    FakeHidBackend hid{&clock};
-    QTemporaryDir dir;
-    std::unique_ptr<DialogDeviceConnect> conn;
-
     Rig()
     {
         hid.responder = [](const QByteArray& frame) {
-            if (quint8(frame.at(0)) == 0x8F) return identity(0x0300);
-            return frame.left(64);
+            return quint8(frame.at(0)) == 0x8F ? identity(0x0300) : frame.left(64);
         };
-        conn = std::make_unique<DialogDeviceConnect>(&hid, &clock, iniPath());
     }
-    QString iniPath() const { return dir.filePath("config/device.ini"); }
-    // Connects to a wired keyboard and lets the first frames go out, without replies moving on.
-    void connectWired()
+    // The keyboard answers this command with this reply, and the others as before.
+    void answer(quint8 command, const QByteArray& reply)
     {
-        hid.addWiredKeyboard();
-        conn->DoConnectDevice(0x3151, 0x502F, false, "0AF7", "path");
+        hid.responder = [next = hid.responder, command, reply](const QByteArray& f) {
+            return quint8(f.at(0)) == command ? reply : next(f);
+        };
+    }
+    // Connected, with the first command chain done.
+    void connectAndSettle()
+    {
+        connectWired();
+        clock.advance(1000);
     }
 };
 
@@ -187,16 +183,7 @@ private slots:
     {
         Rig rig;
         QSignalSpy layer(rig.conn.get(), &DialogDeviceConnect::onUpdataLayer);
-        rig.hid.responder = [](const QByteArray& frame) {
-            switch (quint8(frame.at(0))) {
-            case 0x8F:
-                return identity(0x0300);
-            case 0x84:
-                return hex("84 FF");
-            default:
-                return frame.left(64);
-            }
-        };
+        rig.answer(0x84, hex("84 FF"));
         rig.connectWired();
         QVERIFY(rig.clock.advanceUntil([&] { return layer.count() > 0; }, 1000));
         // The profile byte is sign-extended.
@@ -231,8 +218,7 @@ private slots:
     void missingReplyStopsThePump()
     {
         Rig rig;
-        rig.connectWired();
-        rig.clock.advance(1000);
+        rig.connectAndSettle();
         rig.hid.log.clear();
         rig.hid.failReplies = 1;
         rig.conn->DoSendHex("86", false);
@@ -253,13 +239,8 @@ private slots:
     {
         Rig rig;
         // The keyboard answers 86 with a reply that doesn't even start with 86.
-        rig.hid.responder = [](const QByteArray& frame) {
-            if (quint8(frame.at(0)) == 0x86) return hex("05 04 00 00 00 00 00 00");
-            if (quint8(frame.at(0)) == 0x8F) return identity(0x300);
-            return frame.left(64);
-        };
-        rig.connectWired();
-        rig.clock.advance(1000);
+        rig.answer(0x86, hex("05 04 00 00 00 00 00 00"));
+        rig.connectAndSettle();
         const int row = rig.conn->rowOfCommand(0x05);
         const QByteArray before = rig.conn->rows().bytes(row);
         rig.conn->DoSendHex("86", true);
@@ -272,13 +253,8 @@ private slots:
     void readRepliesFillConsoleRows()
     {
         Rig rig;
-        rig.hid.responder = [](const QByteArray& frame) {
-            if (quint8(frame.at(0)) == 0x87) return hex("87 05 01 02 27 10 20 30");
-            if (quint8(frame.at(0)) == 0x8F) return identity(0x300);
-            return frame.left(64);
-        };
-        rig.connectWired();
-        rig.clock.advance(1000);
+        rig.answer(0x87, hex("87 05 01 02 27 10 20 30"));
+        rig.connectAndSettle();
         rig.conn->DoSendHex("87", true);
         rig.clock.advance(20);
         QCOMPARE(rig.conn->GetLedParams(5).left(8), hex("87 05 01 02 27 10 20 30"));
@@ -306,8 +282,7 @@ private slots:
         QFETCH(bool, sample);
         QFETCH(float, travel);
         Rig rig;
-        rig.connectWired();
-        rig.clock.advance(1000);
+        rig.connectAndSettle();
         QSignalSpy tested(rig.conn.get(), &DialogDeviceConnect::onKeyTest);
         rig.hid.inputReports.push_back(report);
         rig.clock.advance(20);
@@ -318,8 +293,7 @@ private slots:
     void inputPollPausesDuringReadAll()
     {
         Rig rig;
-        rig.connectWired();
-        rig.clock.advance(1000);
+        rig.connectAndSettle();
         rig.hid.inputReports.push_back(hex("05 1B 10 00"));
         rig.conn->DoReadAll();
         rig.clock.advance(200);

@@ -1,19 +1,16 @@
 // The connection's operations: the frames they build, what the read sequence blocks, and round
-// trips through the virtual keyboard (write, read everything back, compare cache and firmware).
+// trips through the virtual keyboard, wired and wireless (write, read everything back, compare
+// cache and firmware).
 
-#include "DialogDeviceConnect.h"
-#include "FakeHidBackend.h"
+#include "ConnectionRig.h"
 #include "Frame.h"
 #include "KeyPositions.h"
 #include "MagnetTables.h"
-#include "ManualClock.h"
 #include "VirtualHidBackend.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest>
 #include <functional>
-#include <memory>
 
 namespace {
 
@@ -22,18 +19,11 @@ using Op = std::function<void(DialogDeviceConnect&)>;
 const quint8 kEntryEsc[4] = {0x00, 0x00, 0x29, 0x00};
 
 // A connection on the scripted backend with the first chain done and nothing queued.
-struct FakeRig
+struct FakeRig : ConnectionRig
 {
-    ManualClock clock;
-    FakeHidBackend hid{&clock};
-    QTemporaryDir dir;
-    std::unique_ptr<DialogDeviceConnect> conn;
-
     FakeRig()
     {
-        conn = std::make_unique<DialogDeviceConnect>(&hid, &clock, dir.filePath("device.ini"));
-        hid.addWiredKeyboard();
-        conn->DoConnectDevice(0x3151, 0x502F, false, "0AF7", "p");
+        connectWired();
         clock.advance(1000);
         hid.log.clear();
     }
@@ -52,16 +42,21 @@ struct SimRig
 {
     ManualClock clock;
     VirtualHidBackend hid{&clock};
-    VirtualKeyboard* keyboard = hid.addWiredKeyboard();
+    VirtualKeyboard* keyboard;
     QTemporaryDir dir;
     std::unique_ptr<DialogDeviceConnect> conn;
 
-    SimRig()
+    explicit SimRig(bool wireless = false)
+        : keyboard(wireless ? hid.addWirelessKeyboard() : hid.addWiredKeyboard())
     {
         conn = std::make_unique<DialogDeviceConnect>(&hid, &clock, dir.filePath("device.ini"));
         QObject::connect(conn.get(), &DialogDeviceConnect::onUpdataLayer, conn.get(),
                          [this](int layer) { conn->DoSetProfile(quint8(layer)); });
-        conn->connectStep();
+        if (wireless)
+            conn->DoConnectDevice(keyboard->vendorId(), keyboard->productId(), true, "0AF7",
+                                  QString::fromLatin1(keyboard->commandPath()));
+        else
+            conn->connectStep(); // the console's Connect button, on device.ini's defaults
         QVERIFY2(settle(), "first read sequence");
     }
     bool settle()
@@ -111,8 +106,6 @@ private slots:
         QTest::newRow("sleep overflow")
             << Op([](auto& c) { c.DoSetSleepTime(1100, 1); })
             << QList<QByteArray>{hex("11 00 00 00 00 00 00 EE 00 00 D0 01")};
-        QTest::newRow("key, last of group")
-            << Op([](auto& c) { c.DoSetProfile(1); }) << QList<QByteArray>{hex("04 01")};
         QTest::newRow("magnetism 2.0 mm") << Op([](auto& c) {
             c.DoSetMagnetism(0x00, 0x29, MagnetTables::rawFromMillimetres(2.0f), 1);
         }) << QList<QByteArray>{hex("65 00 00 00 01 00 00 99 90 01 00 00")};
@@ -139,9 +132,7 @@ private slots:
         QFETCH(Op, op);
         QFETCH(QList<QByteArray>, heads);
         FakeRig rig;
-        QList<QByteArray> sent = rig.framesOf(op);
-        // DoSetProfile's own read sequence follows; only the frames asked for are compared.
-        sent = sent.mid(0, heads.size());
+        const QList<QByteArray> sent = rig.framesOf(op);
         QCOMPARE(sent.size(), heads.size());
         for (int i = 0; i < heads.size(); ++i)
             QCOMPARE(sent[i].left(heads[i].size()), heads[i]);
@@ -354,9 +345,17 @@ private slots:
         rig.clock.advance(200);
     }
 
+    void roundTrips_data()
+    {
+        QTest::addColumn<bool>("wireless");
+        QTest::newRow("wired") << false;
+        QTest::newRow("wireless") << true;
+    }
     void roundTrips()
     {
-        SimRig rig;
+        QFETCH(bool, wireless);
+        SimRig rig(wireless);
+        QCOMPARE(rig.conn->isWirelessConnection(), wireless);
         rig.conn->DoSetReportRate(2);
         rig.conn->DoSetDebounce(5);
         rig.conn->DoSetLedEffect(4, 1);
@@ -372,6 +371,7 @@ private slots:
         rig.conn->DoSetMagnetism(0x00, 0x04, 300, 0);
         rig.conn->DoSetMagnetism(0xFB, 0x04, 0x1FF, 1);
         rig.conn->DoSetKeyFlag(0x05, true);
+        rig.conn->DoSetMacro(0x06, 2, 0, 7, hex("04 B2 04 32 F0 80 2C 01"));
         QVERIFY(rig.settle());
 
         // The firmware holds what was written.
@@ -391,13 +391,16 @@ private slots:
         QCOMPARE(fw.magnetValue(0x00, posA), 300u);
         QCOMPARE(fw.magnetValue(0xFB, posA), 0xFFu);
         QCOMPARE(fw.magnetValue(0x07, PositionOfCode(0x05)), 0x80u);
+        QCOMPARE(fw.macro(7).left(10), hex("02 00 04 B2 04 32 F0 80 2C 01"));
+        QCOMPARE(fw.keyEntry(0, 0, PositionOfCode(0x06)), hex("09 00 07 00"));
 
         // A new read sequence brings the same back into the cache.
         const QByteArray cachedKeys = rig.conn->GetKeyMatrix(1);
         QVERIFY(rig.readAgain());
         QCOMPARE(rig.conn->GetKeyMatrix(1), cachedKeys);
-        QCOMPARE(rig.conn->GetKeyMatrix(1), fw.keyMap(0, 1));
-        QCOMPARE(rig.conn->GetFnMatrix(0).left(512), fw.fnMap().left(512));
+        for (int layer = 0; layer < 4; ++layer)
+            QCOMPARE(rig.conn->GetKeyMatrix(layer), fw.keyMap(0, layer));
+        QCOMPARE(rig.conn->GetFnMatrix(0), fw.fnMap());
         QCOMPARE(rig.conn->GetReportRate(), quint8(2));
         QCOMPARE(rig.conn->GetDebounce(), quint8(5));
         QCOMPARE(rig.conn->GetSleepTimes()[2], quint16(600));
@@ -429,16 +432,6 @@ private slots:
         QCOMPARE(picture.count(), 1);
         QCOMPARE(picture.first().first().toByteArray(), map.left(384));
         QCOMPARE(rig.conn->GetUserPicture(), map.left(384));
-    }
-
-    void macroRoundTrip()
-    {
-        SimRig rig;
-        const QByteArray stream = hex("04 B2 04 32 F0 80 2C 01");
-        rig.conn->DoSetMacro(0x05, 2, 0, 7, stream);
-        QVERIFY(rig.settle());
-        QCOMPARE(rig.fw().macro(7).left(10), hex("02 00 04 B2 04 32 F0 80 2C 01"));
-        QCOMPARE(rig.fw().keyEntry(0, 0, PositionOfCode(0x05)), hex("09 00 07 00"));
     }
 
     // The same road once on real timers: connect, first chain, profile, read sequence.

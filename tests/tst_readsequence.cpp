@@ -1,15 +1,11 @@
 // The read sequence: its frames and their order, version gates, the end of the sequence, the
 // profile switch, failures in the middle, factory reset and the cache accessors.
 
+#include "ConnectionRig.h"
 #include "DefaultKeyMaps.h"
-#include "DialogDeviceConnect.h"
-#include "FakeHidBackend.h"
-#include "ManualClock.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest>
-#include <memory>
 
 namespace {
 
@@ -43,17 +39,14 @@ QList<QByteArray> expectedSequence(quint8 profile, bool withTables)
     return out;
 }
 
-struct Rig
+// Page replies carry a marker of their page, so that a test can see where each one went.
+struct Rig : ConnectionRig
 {
-    ManualClock clock;
-    FakeHidBackend hid{&clock};
-    QTemporaryDir dir;
-    std::unique_ptr<DialogDeviceConnect> conn;
     quint16 version = 0x300;
-    quint8 page = 0; // key page replies carry a page marker so tests can see their order
 
     Rig()
     {
+        followLayer();
         hid.responder = [this](const QByteArray& f) {
             QByteArray r(64, '\0');
             switch (quint8(f.at(0))) {
@@ -74,21 +67,20 @@ struct Rig
                 return f.left(64);
             }
         };
-        conn = std::make_unique<DialogDeviceConnect>(&hid, &clock, dir.filePath("device.ini"));
-        // The hub presses the layer button the keyboard reports.
-        QObject::connect(conn.get(), &DialogDeviceConnect::onUpdataLayer, conn.get(),
-                         [this](int layer) { conn->DoSetProfile(quint8(layer)); });
     }
-    void connect()
-    {
-        hid.addWiredKeyboard();
-        conn->DoConnectDevice(0x3151, 0x502F, false, "0AF7", "p");
-    }
-    bool runUntilDone(QSignalSpy& done, int count = 1)
+    QSignalSpy done{conn.get(), &DialogDeviceConnect::onReadDone};
+
+    bool runUntilDone(int count = 1)
     {
         return clock.advanceUntil([&] { return done.count() >= count; }, 60000);
     }
-    // The frames sent since the last DoReadAll began.
+    // Connected, with the first read sequence done.
+    bool connectAndRead()
+    {
+        connectWired();
+        return runUntilDone();
+    }
+    // The frames sent since the given time.
     QList<QByteArray> lastSequence(qint64 since) const
     {
         QList<QByteArray> out;
@@ -122,17 +114,14 @@ private slots:
         QFETCH(int, scale);
         Rig rig;
         rig.version = quint16(version);
-        QSignalSpy readAll(rig.conn.get(), &DialogDeviceConnect::onReadAll);
-        QSignalSpy done(rig.conn.get(), &DialogDeviceConnect::onReadDone);
         qint64 started = -1;
         QObject::connect(rig.conn.get(), &DialogDeviceConnect::onReadAll, rig.conn.get(),
                          [&] { started = rig.clock.elapsedMs(); });
-        rig.connect();
+        rig.connectWired();
         QVERIFY(rig.clock.advanceUntil([&] { return rig.conn->GetTravelScale() == scale; }, 500));
         QCOMPARE(rig.conn->VersionAtLeast300(), version >= 0x300);
         QCOMPARE(rig.conn->VersionAtLeast400(), version >= 0x400);
-        QVERIFY(rig.runUntilDone(done));
-        QVERIFY(done.count() >= 1);
+        QVERIFY(rig.runUntilDone());
         // The last sequence that ran is the one to compare (the first chain may start two).
         const QList<QByteArray> sent = rig.lastSequence(started);
         QCOMPARE(sent, expectedSequence(0, tables));
@@ -159,35 +148,32 @@ private slots:
     void readDoneComesFiftyMillisecondsAfterTheEnd()
     {
         Rig rig;
-        rig.connect();
-        QSignalSpy done(rig.conn.get(), &DialogDeviceConnect::onReadDone);
+        rig.connectWired();
         QVERIFY(rig.clock.advanceUntil([&] { return rig.conn->isReadingAll(); }, 2000));
         QVERIFY(rig.clock.advanceUntil([&] { return !rig.conn->isReadingAll(); }, 20000));
         const qint64 ended = rig.clock.elapsedMs();
         const qint64 lastReply = rig.hid.log.last().at;
         QVERIFY(ended - lastReply >= 10); // the pump step after the last reply ends it
-        QCOMPARE(done.count(), 0);
+        QCOMPARE(rig.done.count(), 0);
         // The pages are in place at the end, before the signal.
         QCOMPARE(rig.conn->GetKeyMatrix(0).size(), 512);
         rig.clock.advance(49);
-        QCOMPARE(done.count(), 0);
+        QCOMPARE(rig.done.count(), 0);
         rig.clock.advance(1);
-        QCOMPARE(done.count(), 1);
+        QCOMPARE(rig.done.count(), 1);
     }
 
     void profileDecidesTheKeyFrames()
     {
         Rig rig;
-        rig.connect();
-        QSignalSpy done(rig.conn.get(), &DialogDeviceConnect::onReadDone);
-        QVERIFY(rig.runUntilDone(done));
+        QVERIFY(rig.connectAndRead());
         rig.clock.advance(2000);
         const qint64 since = rig.clock.elapsedMs();
-        done.clear();
+        rig.done.clear();
         rig.conn->DoSetProfile(2);
         // 04 goes out at once as a 12-byte command; the read starts 500 ms later.
         QCOMPARE(rig.hid.sentFrames(12).last(), hex("04 02 00 00 00 00 00 F9 00 00 00 00"));
-        QVERIFY(rig.runUntilDone(done));
+        QVERIFY(rig.runUntilDone());
         const QList<QByteArray> sent = rig.lastSequence(since + 500);
         QCOMPARE(sent, expectedSequence(2, true));
     }
@@ -195,28 +181,24 @@ private slots:
     void setProfileTwiceReadsTwice()
     {
         Rig rig;
-        rig.connect();
-        QSignalSpy done(rig.conn.get(), &DialogDeviceConnect::onReadDone);
-        QVERIFY(rig.runUntilDone(done));
+        QVERIFY(rig.connectAndRead());
         rig.clock.advance(2000);
         QSignalSpy readAll(rig.conn.get(), &DialogDeviceConnect::onReadAll);
-        done.clear();
+        rig.done.clear();
         rig.conn->DoSetProfile(1);
         rig.clock.advance(200);
         rig.conn->DoSetProfile(3);
-        QVERIFY(rig.runUntilDone(done));
+        QVERIFY(rig.runUntilDone());
         rig.clock.advance(500);
         QCOMPARE(readAll.count(), 2);
-        QCOMPARE(done.count(), 1);
+        QCOMPARE(rig.done.count(), 1);
         QCOMPARE(rig.conn->GetCurrentProfile(), quint8(3));
     }
 
     void readAllDropsWaitingFrames()
     {
         Rig rig;
-        rig.connect();
-        QSignalSpy done(rig.conn.get(), &DialogDeviceConnect::onReadDone);
-        QVERIFY(rig.runUntilDone(done));
+        QVERIFY(rig.connectAndRead());
         rig.hid.failReplies = 1;
         rig.conn->DoSendHex("06 01", false);
         rig.conn->DoSendHex("06 02", false);
@@ -224,23 +206,21 @@ private slots:
         QCOMPARE(rig.conn->queuedCount(), 1);
         const qint64 since = rig.clock.elapsedMs();
         rig.conn->DoReadAll();
-        QVERIFY(rig.runUntilDone(done, 2));
+        QVERIFY(rig.runUntilDone(2));
         QCOMPARE(rig.lastSequence(since), expectedSequence(0, true));
     }
 
     void missingReplyInTheMiddle()
     {
         Rig rig;
-        rig.connect();
-        QSignalSpy done(rig.conn.get(), &DialogDeviceConnect::onReadDone);
-        QVERIFY(rig.runUntilDone(done));
+        QVERIFY(rig.connectAndRead());
         rig.conn->DoReadAll();
         rig.clock.advance(600);
         rig.hid.failReplies = 1;
         rig.clock.advance(10000);
         // The pump stopped: the flag stays up, no signal, and writes stay blocked.
         QVERIFY(rig.conn->isReadingAll());
-        QCOMPARE(done.count(), 1);
+        QCOMPARE(rig.done.count(), 1);
         QVERIFY(rig.conn->queuedCount() > 0);
         const int sent = rig.hid.sentFrames().size();
         rig.conn->rows().setCell(rig.conn->rowOfCommand(0x06), 1, 3);
@@ -248,17 +228,15 @@ private slots:
         QCOMPARE(rig.hid.sentFrames().size(), sent);
         // A kick restarts the pump and the sequence runs out.
         rig.conn->DoSendCommand(0x86, 8, false);
-        QVERIFY(rig.runUntilDone(done, 2));
+        QVERIFY(rig.runUntilDone(2));
         QVERIFY(!rig.conn->isReadingAll());
     }
 
     void deviceGoneThenBack()
     {
         Rig rig;
-        rig.connect();
-        QSignalSpy done(rig.conn.get(), &DialogDeviceConnect::onReadDone);
         QSignalSpy lost(rig.conn.get(), &DialogDeviceConnect::onDisconnect);
-        QVERIFY(rig.runUntilDone(done));
+        QVERIFY(rig.connectAndRead());
         rig.conn->DoReadAll();
         rig.clock.advance(300);
         // Unplugged: reads fail, then the hot-plug path finds nothing.
@@ -275,7 +253,7 @@ private slots:
         rig.hid.entries = saved;
         rig.hid.failReplies = 0;
         rig.conn->onDevicePluggined();
-        QVERIFY(rig.runUntilDone(done, 2));
+        QVERIFY(rig.runUntilDone(2));
         QVERIFY(!rig.conn->isReadingAll());
         QCOMPARE(rig.conn->GetKeyMatrix(3).size(), 512);
         QCOMPARE(rig.hid.openHandles(), 3);
@@ -284,16 +262,14 @@ private slots:
     void factoryReset()
     {
         Rig rig;
-        rig.connect();
-        QSignalSpy done(rig.conn.get(), &DialogDeviceConnect::onReadDone);
-        QVERIFY(rig.runUntilDone(done));
+        QVERIFY(rig.connectAndRead());
         QVERIFY(rig.conn->GetKeyMatrix(0) != DefaultKeyMaps::DefaultKeyMap());
         const qint64 since = rig.clock.elapsedMs();
         rig.conn->DoFactoryReset();
         // The defaults are in place at once; the reset row goes out before the reads.
         QCOMPARE(rig.conn->GetKeyMatrix(0), DefaultKeyMaps::DefaultKeyMap());
         QCOMPARE(rig.conn->GetFnMatrix(0), DefaultKeyMaps::DefaultFnMap());
-        QVERIFY(rig.runUntilDone(done, 2));
+        QVERIFY(rig.runUntilDone(2));
         const QList<QByteArray> sent = rig.lastSequence(since);
         QCOMPARE(sent.first(), hex("01 00 00 00 00 00 00 FE"));
         QCOMPARE(sent.mid(1), expectedSequence(0, true));

@@ -1,24 +1,17 @@
-// The virtual devices: the firmware model's reads against its writes, its page layouts and
-// table widths, the wired and wireless transports, the faults, and one connection of the
-// protocol core to a virtual keyboard.
+// The virtual devices: the firmware model's quirks and edges that the round trips through the
+// connection (tst_operations) don't reach, its table widths, the wired and wireless transports,
+// the faults, unplugging and the key test stream.
 
 #include "DefaultKeyMaps.h"
-#include "DialogDeviceConnect.h"
 #include "Frame.h"
 #include "ManualClock.h"
 #include "NativeKeyboardModel.h"
+#include "TestSupport.h"
 #include "VirtualHidBackend.h"
 
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
-
-QByteArray hex(const char* text)
-{
-    return QByteArray::fromHex(text);
-}
 
 // A frame with the given head and a payload from offset 8.
 QByteArray frame(const char* head, const QByteArray& payload = {})
@@ -99,24 +92,18 @@ private slots:
     void tableWidthsCutValues_data();
     void tableWidthsCutValues();
     void allKeysAndOutOfRangePositions();
-    void pageLayouts();
-    void pictureSlots();
     void macroBlobs();
     void factoryResetCommand();
     void calibrationScanGrows();
 
     // ---- transports and faults
-    void enumeration();
+    void twinKeyboardsHaveTheirOwnPaths();
     void transports_data();
     void transports();
     void faults_data();
     void faults();
     void unplugAndReplug();
     void keyTestStream();
-
-    // ---- the protocol core against the virtual keyboard
-    void connectionReadsTheKeyboard_data();
-    void connectionReadsTheKeyboard();
 };
 
 void TestSimulator::factoryState()
@@ -145,34 +132,22 @@ void TestSimulator::readsReflectWrites_data()
     QTest::addColumn<int>("offset");
     QTest::addColumn<QByteArray>("expected");
 
-    // Every write below changes what the read returns, but for the refused profile.
-    QTest::newRow("report rate") << frame("03 00 05") << frame("83") << 0 << hex("83 00 05");
+    // Every write below changes what the read returns, but for the refused profile. The values
+    // that the connection writes and reads back itself are in tst_operations' round trips.
     QTest::newRow("profile") << frame("04 02") << frame("84") << 0 << hex("84 02");
     QTest::newRow("profile 4 refused") << frame("04 04") << frame("84") << 0 << hex("84 00");
-    QTest::newRow("debounce") << frame("06 07") << frame("86") << 0 << hex("86 07");
     QTest::newRow("led on/off") << frame("05 00 00") << frame("85") << 0 << hex("85 00 00");
-    QTest::newRow("led params") << frame("07 05 01 02 37 10 20 30") << frame("87") << 0
-                                << hex("87 05 01 02 37 10 20 30");
     QTest::newRow("side led params")
         << frame("08 03 02 04 08 AA BB CC") << frame("88") << 0 << hex("88 03 02 04 08 AA BB CC");
     // Offset 7 is the checksum on the wire: the block keeps what it had there.
     QTest::newRow("options") << frame("09 01 02 03 04 05 06 77", hex("08 09")) << frame("89") << 0
                              << hex("89 01 02 03 04 05 06 00 08 09");
-    QTest::newRow("sleep times") << frame("11", hex("2C 01 58 02 08 07 10 0E")) << frame("91") << 0
-                                 << hex("91 00 00 00 00 00 00 00 2C 01 58 02 08 07 10 0E");
-    QTest::newRow("key entry, profile 1 layer 2")
-        << frame("0A 01 05 00 00 01 02", hex("01 02 29 03")) << frame("8A 01 FF 00 02") << 20
-        << hex("01 02 29 03");
     QTest::newRow("key entry, last position")
         << frame("0A 03 7F 00 00 01 03", hex("09 02 03 00")) << frame("8A 03 FF 07 03") << 60
         << hex("09 02 03 00");
     QTest::newRow("fn entry in the tenth page")
         << frame("10 00 00 9F", hex("0D 08 01 00")) << frame("90 00 00 FF 09") << 60
         << hex("0D 08 01 00");
-    QTest::newRow("magnetism u16")
-        << frame("65 00 00 03 01", hex("2C 01 00 00")) << frame("E5 00 01 00") << 6 << hex("2C 01");
-    QTest::newRow("magnetism u32") << frame("65 0A 00 11", hex("78 56 34 12"))
-                                   << frame("E5 0A 01 01") << 4 << hex("78 56 34 12");
 }
 
 void TestSimulator::readsReflectWrites()
@@ -212,14 +187,10 @@ void TestSimulator::tableWidthsCutValues_data()
     QTest::addColumn<quint32>("value");
     QTest::addColumn<quint32>("stored");
 
-    QTest::newRow("00 u16") << quint8(0x00) << 2 << 0x12345u << 0x2345u;
     QTest::newRow("05 u8") << quint8(0x05) << 1 << 0x12345678u << 0x78u;
-    QTest::newRow("07 u8") << quint8(0x07) << 1 << 0x87u << 0x87u;
-    QTest::newRow("08 u8") << quint8(0x08) << 1 << 0x0401u << 0x01u;
     QTest::newRow("0A u32") << quint8(0x0A) << 4 << 0x12345678u << 0x12345678u;
     QTest::newRow("FF u16") << quint8(0xFF) << 2 << 0xABCDEFu << 0xCDEFu;
     QTest::newRow("FE u16") << quint8(0xFE) << 2 << 700u << 700u;
-    QTest::newRow("FC u8") << quint8(0xFC) << 1 << 0x103u << 0x03u;
     QTest::newRow("FB u8") << quint8(0xFB) << 1 << 0x1FFu << 0xFFu;
 }
 
@@ -273,58 +244,9 @@ void TestSimulator::allKeysAndOutOfRangePositions()
     QCOMPARE(model.keyMap(0, 0), keysBefore);
     QCOMPARE(model.magnetValue(0x0B, 1), 0u);
     QCOMPARE(model.handle(frame("E5 0B 01 00")), frame("E5 0B 01 00")); // unknown: echoed
-}
-
-void TestSimulator::pageLayouts()
-{
-    NativeKeyboardModel model;
-    // Every entry distinct, so that a misplaced page shows; the expected stores are built here,
-    // entry after entry.
-    QByteArray keys;
-    QByteArray table0A;
-    QByteArray fn;
-    for (int p = 0; p < 160; ++p) {
-        QByteArray f = frame("10 00 00", pattern(4, 5 * p));
-        f[3] = char(p);
-        model.handle(f);
-        fn += pattern(4, 5 * p);
-        if (p >= 128) continue;
-        f = frame("0A 02 00 00 00 00 01", pattern(4, p));
-        f[2] = char(p);
-        model.handle(f);
-        keys += pattern(4, p);
-        f = frame("65 0A 00", pattern(4, 3 * p));
-        f[3] = char(p);
-        model.handle(f);
-        table0A += pattern(4, 3 * p);
-    }
-
-    QCOMPARE(readPages(model, hex("8A 02 FF 00 01"), 3, 8), keys);
-    QCOMPARE(model.keyMap(2, 1), keys);
-    QCOMPARE(readPages(model, hex("8A 00 FF 00 00"), 3, 8), DefaultKeyMaps::factoryKeyMap());
-    QCOMPARE(readPages(model, hex("90 00 00 FF 00"), 4, 10), fn);
-    QCOMPARE(readPages(model, hex("E5 0A 01 00"), 3, 8), table0A);
-    QCOMPARE(readPages(model, hex("E5 00 01 00"), 3, 4), model.magnetTable(0x00));
     // Past the end of a store a page reads as zeros.
     QCOMPARE(model.handle(frame("8A 02 FF 08 01")), QByteArray(64, '\0'));
     QCOMPARE(model.handle(frame("E5 05 01 02")), QByteArray(64, '\0'));
-}
-
-void TestSimulator::pictureSlots()
-{
-    NativeKeyboardModel model;
-    const QByteArray map = pattern(392, 11);
-    for (int page = 0; page < 7; ++page) {
-        QByteArray f = frame("0C 04 FF 00 38", map.mid(page * 56, 56));
-        f[3] = char(page);
-        f[5] = char(page == 6);
-        model.handle(f);
-    }
-    QCOMPARE(model.picture(4), map);
-    QCOMPARE(model.picture(0), QByteArray(392, '\0'));
-    // Reads come in whole 64-byte pages: six of them give the 128 keys.
-    QCOMPARE(readPages(model, hex("8C 04 FF 00"), 3, 6), map.left(384));
-    QCOMPARE(model.handle(frame("8C 04 FF 06")), map.mid(384) + QByteArray(56, '\0'));
 }
 
 void TestSimulator::macroBlobs()
@@ -393,39 +315,18 @@ void TestSimulator::calibrationScanGrows()
     QVERIFY(!model.calibrating());
 }
 
-void TestSimulator::enumeration()
+void TestSimulator::twinKeyboardsHaveTheirOwnPaths()
 {
     ManualClock clock;
     auto hid = VirtualHidBackend::createDefaultSet(&clock, {});
-    VirtualKeyboard* wiredKb = hid->wiredKeyboard();
-    VirtualKeyboard* wirelessKb = hid->wirelessKeyboard();
-    QVERIFY(wiredKb && wirelessKb);
-
-    const QList<HidDeviceInfo> wiredEntries = hid->enumerate(0x3151, 0x502F);
-    QCOMPARE(wiredEntries.size(), 2);
-    QCOMPARE(wiredEntries[0].usagePage, quint16(0xFFFF));
-    QCOMPARE(wiredEntries[0].usage, quint16(1));
-    QCOMPARE(wiredEntries[0].path, wiredKb->inputPath());
-    QCOMPARE(wiredEntries[1].usage, quint16(2));
-    QCOMPARE(wiredEntries[1].path, wiredKb->commandPath());
-    QVERIFY(wiredEntries[0].path != wiredEntries[1].path);
-    QVERIFY(!wiredEntries[0].product.isEmpty());
-
-    const QList<HidDeviceInfo> wirelessEntries = hid->enumerate(0x3151, 0x5030);
-    QCOMPARE(wirelessEntries.size(), 1);
-    QCOMPARE(wirelessEntries[0].usagePage, quint16(0xFF55));
-    QCOMPARE(wirelessEntries[0].usage, quint16(0x0202));
-    QCOMPARE(wirelessEntries[0].path, wirelessKb->commandPath());
-
-    QCOMPARE(hid->enumerate(0x3151, 0).size(), 3);
-    QCOMPARE(hid->enumerate(0, 0).size(), 13); // and the discovery set's 10 interfaces
-    QCOMPARE(hid->enumerate(0x05AC, 0).size(), 0);
-
-    // A second keyboard with the same ids gets paths of its own.
+    VirtualKeyboard* first = hid->wiredKeyboard();
+    QCOMPARE(hid->enumerate(0, 0).size(),
+             13); // three keyboard interfaces, ten of the other families
     VirtualKeyboard* twin = hid->addWiredKeyboard(0x0EC3);
-    QVERIFY(twin->commandPath() != wiredKb->commandPath());
+    QVERIFY(twin->commandPath() != first->commandPath());
+    QVERIFY(twin->inputPath() != first->inputPath());
     QCOMPARE(hid->enumerate(0x3151, 0x502F).size(), 4);
-    QCOMPARE(hid->wiredKeyboard(), wiredKb);
+    QCOMPARE(hid->wiredKeyboard(), first);
 }
 
 void TestSimulator::transports_data()
@@ -589,53 +490,6 @@ void TestSimulator::keyTestStream()
     link.send(hex("1B 00"));
     link.clock.advance(100);
     QCOMPARE(hid.read(input, buffer, 64), 0);
-}
-
-void TestSimulator::connectionReadsTheKeyboard_data()
-{
-    QTest::addColumn<bool>("isWireless");
-    QTest::newRow("wired") << false;
-    QTest::newRow("wireless") << true;
-}
-
-void TestSimulator::connectionReadsTheKeyboard()
-{
-    QFETCH(bool, isWireless);
-    ManualClock clock;
-    QTemporaryDir dir;
-    auto hid = VirtualHidBackend::createDefaultSet(&clock,
-                                                   {.deviceId = 0x0EC3, .firmwareVersion = 0x0310});
-    VirtualKeyboard* kb = isWireless ? hid->wirelessKeyboard() : hid->wiredKeyboard();
-    // Something of the keyboard's own, so the cache can't match by accident.
-    kb->model().handle(frame("04 01"));
-    kb->model().handle(frame("0A 01 07 00 00 01 02", hex("03 00 E9 00")));
-    kb->model().handle(frame("65 00 00 FF 01", hex("F4 01 00 00")));
-    kb->model().handle(frame("06 04"));
-
-    DialogDeviceConnect conn(hid.get(), &clock, dir.filePath("device.ini"));
-    connect(&conn, &DialogDeviceConnect::onUpdataLayer, &conn,
-            [&conn](int layer) { conn.DoSetProfile(quint8(layer)); });
-    QSignalSpy done(&conn, &DialogDeviceConnect::onReadDone);
-    conn.DoConnectDevice(kb->vendorId(), kb->productId(), isWireless, "3779",
-                         QString::fromLatin1(kb->commandPath()));
-    QVERIFY(conn.isConnected());
-    QVERIFY(clock.advanceUntil([&] { return done.count() == 1; }, 30000, 5));
-
-    QCOMPARE(conn.GetDeviceId(), 0x0EC3u);
-    QCOMPARE(conn.GetCurrentProfile(), quint8(1));
-    QCOMPARE(conn.GetDebounce(), quint8(4));
-    for (int layer = 0; layer < 4; ++layer)
-        QCOMPARE(conn.GetKeyMatrix(layer), kb->model().keyMap(1, layer));
-    QCOMPARE(conn.GetFnMatrix(0), kb->model().fnMap());
-    for (quint8 table : {0x00, 0x05, 0x0A, 0xFB})
-        QCOMPARE(conn.GetMagnetTable(DialogDeviceConnect::magnetTableIndex(table)),
-                 kb->model().magnetTable(table));
-    // The profile the keyboard answered was set again before the read.
-    const QList<QByteArray> frames = kb->model().receivedFrames().mid(4);
-    QVERIFY(std::any_of(frames.begin(), frames.end(),
-                        [](const QByteArray& f) { return f.startsWith(hex("04 01")); }));
-    QCOMPARE(frames.first().left(2), isWireless ? hex("8F 00") : hex("1B 01"));
-    QCOMPARE(hid->openHandleCount(), isWireless ? 1 : 3);
 }
 
 QTEST_GUILESS_MAIN(TestSimulator)

@@ -1,0 +1,51 @@
+#pragma once
+
+// Small helpers that several test programs share: bytes from hex text, whole-file reads and
+// writes, and an application folder holding a copy of the shipped config/.
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+// Bytes from hex text; blanks are ignored.
+inline QByteArray hex(const char* text)
+{
+    return QByteArray::fromHex(text);
+}
+
+inline QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Writes the file whole, making its folder first.
+inline void writeFile(const QString& path, const QByteArray& content)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    QCOMPARE(file.write(content), content.size());
+}
+
+#ifdef ORBE_SOURCE_DIR
+// An application folder with a copy of the shipped config/, so that a test may change it.
+class AppDir
+{
+public:
+    AppDir()
+    {
+        const QString source = QStringLiteral(ORBE_SOURCE_DIR "/config/");
+        QDir().mkpath(path() + "/config");
+        for (const QString& name : QDir(source).entryList(QDir::Files))
+            QFile::copy(source + name, path() + "/config/" + name);
+    }
+    QString path() const { return dir.path(); }
+
+private:
+    QTemporaryDir dir;
+};
+#endif
