@@ -4,6 +4,7 @@
 #include "KeyPositions.h"
 #include "ModuleGenKeymapping.h"
 
+#include <QCryptographicHash>
 #include <QTranslator>
 #include <QtTest>
 
@@ -21,6 +22,20 @@ namespace {
 KeyEntry entryOf(const char* hex)
 {
     return KeyEntry::fromByteArray(QByteArray::fromHex(hex));
+}
+
+// One comparison that covers every row of a table: the digest of its rows written out.
+QByteArray digest(const QString& rows)
+{
+    return QCryptographicHash::hash(rows.toUtf8(), QCryptographicHash::Sha1).toHex();
+}
+
+QString listText(const QList<KeyFunctionRow>& list)
+{
+    QString text;
+    for (const KeyFunctionRow& row : list)
+        text += row.name() + u' ' + QString::fromLatin1(row.entry.toByteArray().toHex()) + u';';
+    return text;
 }
 
 // Marks every text of the key vocabulary's context, so a test can see which texts were
@@ -55,25 +70,19 @@ private slots:
     void keyNameByCode();
     void keyNameByScan_data();
     void keyNameByScan();
-    void keyNameTableRows_data();
-    void keyNameTableRows();
-
+    void wholeTables();
     void listRows_data();
     void listRows();
-    void rowsPastTheEnd();
 
     void codeOfPosition_data();
     void codeOfPosition();
     void positionOfCode_data();
     void positionOfCode();
-    void codesOfFactoryMatrixAreUnique();
     void mappingFollowsSetDefaultKeyMap();
 
     void isModifiedEntry_data();
     void isModifiedEntry();
 
-    void defaultKeyMapColumns_data();
-    void defaultKeyMapColumns();
     void defaultKeyMapEntries_data();
     void defaultKeyMapEntries();
     void defaultFnMapEntries_data();
@@ -113,7 +122,6 @@ void TestKeyVocabulary::keyEntryText_data()
     QTest::newRow("single key") << entryOf("002C0000") << true << "组合: Space";
     QTest::newRow("single key, no prefix") << entryOf("002C0000") << false << "Space";
     QTest::newRow("two keys") << entryOf("00E00400") << true << "组合: L-Ctrl + A";
-    QTest::newRow("three keys, no prefix") << entryOf("00041D1B") << false << "A + Z + X";
     QTest::newRow("unnamed middle key skipped")
         << entryOf("00E0FA04") << true << "组合: L-Ctrl + A";
     QTest::newRow("empty first key") << entryOf("0000E304") << true << QString();
@@ -125,16 +133,11 @@ void TestKeyVocabulary::keyEntryText_data()
     QTest::newRow("fixed combination row") << entryOf("0000E32E") << true << "功能: 放大";
     QTest::newRow("factory Insert is a function")
         << entryOf("00004900") << true << "功能: Insert键";
-    QTest::newRow("second side-light colour group")
-        << entryOf("0D080401") << true << "功能: 侧光颜色+";
-    QTest::newRow("last function row") << entryOf("00004600") << true << "功能: Print Screen键";
 
     QTest::newRow("mouse") << entryOf("0100F000") << true << "鼠标: 左键单击";
     QTest::newRow("mouse, negative amount") << entryOf("0100F5FF") << false << "鼠标: 向下滚屏";
-    QTest::newRow("last mouse row") << entryOf("0100F705") << true << "鼠标: YDOWN";
 
     QTest::newRow("macro") << entryOf("09010500") << true << "宏设置";
-    QTest::newRow("macro, no prefix") << entryOf("09000000") << false << "宏设置";
 }
 
 void TestKeyVocabulary::keyEntryText()
@@ -172,19 +175,13 @@ void TestKeyVocabulary::keyNameByCode_data()
     QTest::addColumn<QString>("name");
 
     QTest::newRow("Esc") << 0x29 << "Esc";
-    QTest::newRow("grave") << 0x35 << "` ~";
-    QTest::newRow("quote") << 0x34 << "' \"";
-    QTest::newRow("backslash") << 0x31 << "\\ |";
     QTest::newRow("left backslash") << 0x64 << "L-\\";
     QTest::newRow("right backslash") << 0x87 << "R-\\";
     QTest::newRow("yen") << 0x89 << "_¥";
     QTest::newRow("Home, not Num-Home") << 0x4A << "Home";
-    QTest::newRow("End, not Num-End") << 0x4D << "End";
     QTest::newRow("left arrow, not Num-left") << 0x50 << "←";
-    QTest::newRow("up arrow, not Num-up") << 0x52 << "↑";
     QTest::newRow("Pgdn, not Num-Pgdn") << 0x4E << "Pgdn";
     QTest::newRow("volume up") << 0xEA << "VOL+";
-    QTest::newRow("volume down") << 0xE9 << "VOL-";
     QTest::newRow("usage 0") << 0x00 << QString();
     QTest::newRow("Fn code") << 0xFA << QString();
     QTest::newRow("not in table") << 0x68 << QString();
@@ -226,33 +223,38 @@ void TestKeyVocabulary::keyNameByScan()
     QCOMPARE(int(CodeByScan(quint16(scan))), usage);
 }
 
-void TestKeyVocabulary::keyNameTableRows_data()
+// Every row of the fixed tables at once, as digests of the rows written out: a deliberate change
+// to a table changes its digest here. The rows that carry a rule have cases of their own.
+void TestKeyVocabulary::wholeTables()
 {
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("usage");
-    QTest::addColumn<int>("scan");
-
-    QTest::newRow("first") << 0 << "` ~" << 0x35 << 0x29;
-    QTest::newRow("yen") << 13 << "_¥" << 0x89 << 0x00;
-    QTest::newRow("quote") << 40 << "' \"" << 0x34 << 0x28;
-    QTest::newRow("hash") << 41 << "_]" << 0x32 << 0x00;
-    QTest::newRow("Space") << 62 << "Space" << 0x2C << 0x39;
-    QTest::newRow("Esc") << 100 << "Esc" << 0x29 << 0x01;
-    QTest::newRow("Print-Screen") << 113 << "Print-Screen" << 0x46 << 0xE05C;
-    QTest::newRow("last") << 117 << "VOL-" << 0xE9 << 0x00;
-}
-
-void TestKeyVocabulary::keyNameTableRows()
-{
-    QFETCH(int, row);
-    QFETCH(QString, name);
-    QFETCH(int, usage);
-    QFETCH(int, scan);
+    QString names;
+    for (const KeyNameRow& row : KeyNameTable)
+        names += QStringLiteral("%1 %2/%3;")
+                     .arg(QString::fromUtf8(row.name))
+                     .arg(row.usage, 0, 16)
+                     .arg(row.scan, 0, 16);
     QCOMPARE(int(std::size(KeyNameTable)), 118);
-    QCOMPARE(QString::fromUtf8(KeyNameTable[row].name), name);
-    QCOMPARE(int(KeyNameTable[row].usage), usage);
-    QCOMPARE(int(KeyNameTable[row].scan), scan);
+    QCOMPARE(digest(names), "f622680940e5e24435bcfeb453412857a55c1b70");
+
+    const ModuleGenKeymapping keymapping;
+    QCOMPARE(keymapping.FunctionKeyList().size(), 98);
+    QCOMPARE(digest(listText(keymapping.FunctionKeyList())),
+             "19200ff4b3376b52304afe726c07aa36bd79a48b");
+    QCOMPARE(keymapping.MouseKeyList().size(), 15);
+    QCOMPARE(digest(listText(keymapping.MouseKeyList())),
+             "f3bac45ff7cf745033433dde7977a010752746f2");
+    QVERIFY(!keymapping.FunctionEntryAt(98).has_value());
+    QVERIFY(!keymapping.MouseEntryAt(15).has_value());
+    QVERIFY(!keymapping.MouseEntryAt(255).has_value());
+
+    const QByteArray keys = DefaultKeyMaps::factoryKeyMap();
+    QCOMPARE(keys.size(), 512);
+    QCOMPARE(digest(QString::fromLatin1(keys.toHex())), "a57843bd73a50d655a2cee49c7dfe688962b02cc");
+    // Every code of the factory matrix leads back to its own position.
+    for (int position = 0; position < 128; ++position) {
+        const quint8 code = CodeOfPosition(quint8(position));
+        if (code != 0) QCOMPARE(int(PositionOfCode(code)), position);
+    }
 }
 
 void TestKeyVocabulary::listRows_data()
@@ -264,17 +266,9 @@ void TestKeyVocabulary::listRows_data()
 
     QTest::newRow("function 0") << false << 0 << "上一曲" << entryOf("0300B600");
     QTest::newRow("function 13") << false << 13 << "后退" << entryOf("03002402");
-    QTest::newRow("function 15") << false << 15 << "停止" << entryOf("03002602");
     QTest::newRow("function 24") << false << 24 << "返回" << entryOf("03002402");
-    QTest::newRow("function 27") << false << 27 << "R-Fn键" << entryOf("0A010100");
-    QTest::newRow("function 44") << false << 44 << "L-Fn键" << entryOf("0A010000");
-    QTest::newRow("function 54") << false << 54 << "APP CTRL切换" << entryOf("0A170000");
-    QTest::newRow("function 76") << false << 76 << "Use Pic" << entryOf("0D068000");
-    QTest::newRow("function 85") << false << 85 << "侧光颜色循环" << entryOf("0D080400");
-    QTest::newRow("function 95") << false << 95 << "蓝牙配对" << entryOf("0E010100");
     QTest::newRow("function 97") << false << 97 << "Print Screen键" << entryOf("00004600");
     QTest::newRow("mouse 0") << true << 0 << "左键单击" << entryOf("0100F000");
-    QTest::newRow("mouse 9") << true << 9 << "向上滚屏" << entryOf("0100F501");
     QTest::newRow("mouse 14") << true << 14 << "YDOWN" << entryOf("0100F705");
 }
 
@@ -297,33 +291,20 @@ void TestKeyVocabulary::listRows()
     QCOMPARE(list.at(row).entry, entry);
 }
 
-void TestKeyVocabulary::rowsPastTheEnd()
-{
-    const ModuleGenKeymapping& keymapping = ModuleGenKeymapping::instance();
-    QVERIFY(!keymapping.FunctionEntryAt(98).has_value());
-    QVERIFY(!keymapping.FunctionEntryAt(255).has_value());
-    QVERIFY(!keymapping.MouseEntryAt(15).has_value());
-    QVERIFY(!keymapping.MouseEntryAt(255).has_value());
-}
-
 void TestKeyVocabulary::codeOfPosition_data()
 {
     QTest::addColumn<int>("position");
     QTest::addColumn<int>("code");
 
     QTest::newRow("Esc") << 0 << 0x29;
-    QTest::newRow("grave") << 1 << 0x35;
-    QTest::newRow("A") << 9 << 0x04;
     QTest::newRow("first hole") << 10 << 0x00;
     QTest::newRow("Fn") << 65 << 0xFA;
-    QTest::newRow("right arrow") << 89 << 0x4F;
     QTest::newRow("volume down") << 90 << 0xEA;
     QTest::newRow("volume up") << 91 << 0xE9;
     QTest::newRow("position 92") << 92 << 0xFB;
     QTest::newRow("empty 95") << 95 << 0x00;
     QTest::newRow("brightness down") << 96 << 0xFC;
     QTest::newRow("brightness up") << 97 << 0xFD;
-    QTest::newRow("last") << 127 << 0x00;
     QTest::newRow("128") << 128 << 0x00;
     QTest::newRow("255") << 255 << 0x00;
 }
@@ -341,14 +322,6 @@ void TestKeyVocabulary::positionOfCode_data()
     QTest::addColumn<int>("position");
 
     QTest::newRow("Esc") << 0x29 << 0;
-    QTest::newRow("L-Ctrl") << 0xE0 << 5;
-    QTest::newRow("right arrow") << 0x4F << 89;
-    QTest::newRow("volume down") << 0xEA << 90;
-    QTest::newRow("volume up") << 0xE9 << 91;
-    QTest::newRow("FA") << 0xFA << 65;
-    QTest::newRow("FB") << 0xFB << 92;
-    QTest::newRow("FC") << 0xFC << 96;
-    QTest::newRow("FD") << 0xFD << 97;
     QTest::newRow("code 0 is the first hole") << 0x00 << 10;
     QTest::newRow("unknown") << 0x68 << 0xFF;
     QTest::newRow("FF") << 0xFF << 0xFF;
@@ -359,14 +332,6 @@ void TestKeyVocabulary::positionOfCode()
     QFETCH(int, code);
     QFETCH(int, position);
     QCOMPARE(int(PositionOfCode(quint8(code))), position);
-}
-
-void TestKeyVocabulary::codesOfFactoryMatrixAreUnique()
-{
-    for (int position = 0; position < 128; ++position) {
-        const quint8 code = CodeOfPosition(quint8(position));
-        if (code != 0) QCOMPARE(int(PositionOfCode(code)), position);
-    }
 }
 
 void TestKeyVocabulary::mappingFollowsSetDefaultKeyMap()
@@ -404,11 +369,8 @@ void TestKeyVocabulary::isModifiedEntry_data()
 
     QTest::newRow("Esc as factory") << 0 << entryOf("00002900") << false;
     QTest::newRow("Esc as picked") << 0 << entryOf("00290000") << true;
-    QTest::newRow("disabled Esc") << 0 << entryOf("00000000") << true;
     QTest::newRow("empty place") << 10 << entryOf("00000000") << false;
-    QTest::newRow("Fn as factory") << 65 << entryOf("0A010000") << false;
     QTest::newRow("Fn, last byte") << 65 << entryOf("0A010001") << true;
-    QTest::newRow("brightness up") << 97 << entryOf("0D020100") << false;
     QTest::newRow("brightness swapped") << 97 << entryOf("0D020200") << true;
     QTest::newRow("past the matrix, zero") << 200 << entryOf("00000000") << false;
     QTest::newRow("past the matrix, a key") << 200 << entryOf("00002900") << true;
@@ -422,47 +384,16 @@ void TestKeyVocabulary::isModifiedEntry()
     QCOMPARE(IsModifiedEntry(quint8(position), entry), modified);
 }
 
-void TestKeyVocabulary::defaultKeyMapColumns_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QByteArray>("usages"); // byte 2 of each row; 0 for an empty place
-
-    QTest::newRow("0") << 0 << QByteArray::fromHex("29352B39E1E0");
-    QTest::newRow("1") << 1 << QByteArray::fromHex("3A1E140400E3");
-    QTest::newRow("2") << 2 << QByteArray::fromHex("3B1F1A161DE2");
-    QTest::newRow("3") << 3 << QByteArray::fromHex("3C2008071B00");
-    QTest::newRow("4") << 4 << QByteArray::fromHex("3D2115090600");
-    QTest::newRow("5") << 5 << QByteArray::fromHex("3E22170A1900");
-    QTest::newRow("6") << 6 << QByteArray::fromHex("3F231C0B052C");
-    QTest::newRow("7") << 7 << QByteArray::fromHex("4024180D1100");
-    QTest::newRow("8") << 8 << QByteArray::fromHex("41250C0E1000");
-    QTest::newRow("9") << 9 << QByteArray::fromHex("4226120F36E6");
-    QTest::newRow("10, Fn below") << 10 << QByteArray::fromHex("4327133337");
-    QTest::newRow("11") << 11 << QByteArray::fromHex("442D2F3438E4");
-    QTest::newRow("12") << 12 << QByteArray::fromHex("452E3000E550");
-    QTest::newRow("13") << 13 << QByteArray::fromHex("4C2A31285251");
-    QTest::newRow("14") << 14 << QByteArray::fromHex("004A4B4E4D4F");
-}
-
-void TestKeyVocabulary::defaultKeyMapColumns()
-{
-    QFETCH(int, column);
-    QFETCH(QByteArray, usages);
-    const QByteArray map = DefaultKeyMaps::factoryKeyMap();
-    QCOMPARE(map.size(), 512);
-    for (int row = 0; row < usages.size(); ++row) {
-        const quint8 usage = quint8(usages[row]);
-        const KeyEntry expected = usage ? KeyEntry(0, 0, usage, 0) : KeyEntry();
-        QCOMPARE(KeyEntry::fromByteArray(map, (column * 6 + row) * 4), expected);
-    }
-}
-
 void TestKeyVocabulary::defaultKeyMapEntries_data()
 {
     QTest::addColumn<int>("position");
     QTest::addColumn<KeyEntry>("entry");
 
+    QTest::newRow("Esc") << 0 << entryOf("00002900");
+    QTest::newRow("L-Ctrl") << 5 << entryOf("0000E000");
+    QTest::newRow("first hole") << 10 << KeyEntry();
     QTest::newRow("Fn") << 65 << entryOf("0A010000");
+    QTest::newRow("right arrow") << 89 << entryOf("00004F00");
     QTest::newRow("volume down") << 90 << entryOf("0300EA00");
     QTest::newRow("volume up") << 91 << entryOf("0300E900");
     QTest::newRow("92") << 92 << entryOf("0A0E0000");
@@ -470,8 +401,8 @@ void TestKeyVocabulary::defaultKeyMapEntries_data()
         QTest::addRow("%d empty", position) << position << KeyEntry();
     QTest::newRow("brightness down") << 96 << entryOf("0D020200");
     QTest::newRow("brightness up") << 97 << entryOf("0D020100");
-    for (int position = 98; position < 128; ++position)
-        QTest::addRow("%d empty", position) << position << KeyEntry();
+    QTest::newRow("98 empty") << 98 << KeyEntry();
+    QTest::newRow("127 empty") << 127 << KeyEntry();
 }
 
 void TestKeyVocabulary::defaultKeyMapEntries()
