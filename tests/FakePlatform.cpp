@@ -51,6 +51,14 @@ QString nameOf(const QString& operation)
 
 } // namespace
 
+FakePlatform* FakePlatform::install()
+{
+    auto fake = std::make_unique<FakePlatform>();
+    FakePlatform* installed = fake.get();
+    Platform::replaceInstance(std::move(fake));
+    return installed;
+}
+
 QStringList FakePlatform::operationsNamed(std::initializer_list<const char*> names) const
 {
     QStringList wanted;
@@ -158,13 +166,9 @@ bool FakePlatform::isProcessRunning(const QString& name)
 bool FakePlatform::endProcess(const QString& name)
 {
     record("endProcess", {text(name)});
-    qsizetype at = 0;
-    while (at < runningProcesses.size() &&
-           runningProcesses.at(at).compare(name, Qt::CaseInsensitive) != 0)
-        ++at;
-    if (at == runningProcesses.size()) return false;
-    runningProcesses.removeAt(at);
-    return true;
+    return runningProcesses.removeIf([&](const QString& running) {
+        return running.compare(name, Qt::CaseInsensitive) == 0;
+    }) > 0;
 }
 
 Platform::WindowId FakePlatform::findWindow(const QString& title, const QString& className)

@@ -25,6 +25,11 @@ public:
     QHash<QString, WindowId> windowsByTitle; // what findWindow answers
     QHash<WindowId, QRect> windowRects;      // what windowRect answers
 
+    // Puts a new fake in the platform's place for the rest of the program.
+    static FakePlatform* install();
+    // Forgets the record and every answer and state given so far.
+    void reset() { *this = FakePlatform(); }
+
     // ---- the record
     QStringList operations;
     // The recorded calls with one of these names, in order.

@@ -6,12 +6,12 @@
 #include "OrbeDeviceEnum.h"
 #include "ScanDebounce.h"
 #include "SteppedClock.h"
+#include "TestSupport.h"
 #include "USBNotifier.h"
 #include "VirtualHidBackend.h"
 
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 #include <thread>
 
@@ -94,10 +94,7 @@ void TestHotplug::virtualPlugEventsReachTheNotifier()
 
 void TestHotplug::unplugLeadsToAPass()
 {
-    QTemporaryDir app;
-    QDir().mkpath(app.path() + "/config");
-    QVERIFY(QFile::copy(QStringLiteral(ORBE_SOURCE_DIR "/config/OrbeHubDevices.json"),
-                        app.path() + "/config/OrbeHubDevices.json"));
+    AppDir app;
     SteppedClock clock;
     VirtualHidBackend hid(&clock);
     VirtualKeyboard* kb = hid.addWiredKeyboard();

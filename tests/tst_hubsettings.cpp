@@ -58,17 +58,9 @@ private slots:
     void initTestCase()
     {
         QStandardPaths::setTestModeEnabled(true);
-        auto fake = std::make_unique<FakePlatform>();
-        platform = fake.get();
-        Platform::replaceInstance(std::move(fake));
+        platform = FakePlatform::install();
     }
-
-    void init()
-    {
-        platform->operations.clear();
-        platform->values.clear();
-        platform->autostart.clear();
-    }
+    void init() { platform->reset(); }
 
     void cleanup()
     {
@@ -85,24 +77,19 @@ private slots:
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("code");
         QTest::addColumn<int>("id");
-        QTest::newRow("simplified Chinese") << 0 << "中文简体"
-                                            << "zh_CN"
-                                            << "cn" << 2052;
-        QTest::newRow("English") << 1 << "English"
-                                 << "en_US"
-                                 << "en" << 1033;
-        QTest::newRow("Japanese") << 3 << "日本語"
-                                  << "ja_JP"
-                                  << "jp" << 1041;
-        QTest::newRow("Korean") << 4 << "한국어"
-                                << "ko_KR"
-                                << "kr" << 1042;
-        QTest::newRow("Portuguese") << 7 << "Português"
-                                    << "pt_PT"
-                                    << "pt" << 1046;
-        QTest::newRow("Turkish, the last") << 13 << "Türkçe"
-                                           << "tr_TR"
-                                           << "tr" << 1055;
+        struct Row
+        {
+            int index;
+            const char *name, *locale, *code;
+            int id;
+        };
+        // "jp", "kr" and 1046 for Portuguese are what the sibling drivers read, as they stand.
+        for (const Row& r :
+             {Row{0, "中文简体", "zh_CN", "cn", 2052}, Row{1, "English", "en_US", "en", 1033},
+              Row{3, "日本語", "ja_JP", "jp", 1041}, Row{4, "한국어", "ko_KR", "kr", 1042},
+              Row{7, "Português", "pt_PT", "pt", 1046}, Row{13, "Türkçe", "tr_TR", "tr", 1055}})
+            QTest::newRow(r.locale) << r.index << QString::fromUtf8(r.name) << QString(r.locale)
+                                    << QString(r.code) << r.id;
     }
     void languageSwitchWritesTheValues()
     {
@@ -241,15 +228,12 @@ private slots:
         QTest::addColumn<QString>("decision");
         QTest::addColumn<QString>("after"); // "self": this program
         QTest::addColumn<int>("result");
-        const QString other = "/opt/orbe/orbehub";
-        QTest::newRow("OK with the box checked") << "" << true << "pushButtonOK"
-                                                 << "self" << 1;
-        QTest::newRow("OK with the box unchecked removes it") << other << false << "pushButtonOK"
-                                                              << "" << 1;
+        const QString other = "/opt/orbe/orbehub", ok = "pushButtonOK", self = "self";
+        QTest::newRow("OK with the box checked") << QString() << true << ok << self << 1;
+        QTest::newRow("OK with the box unchecked removes it") << other << false << ok << "" << 1;
         QTest::newRow("OK keeping it checked writes this program")
-            << other << true << "pushButtonOK"
-            << "self" << 1;
-        QTest::newRow("cancel writes nothing") << "" << true << "pushButtonCancel"
+            << other << true << ok << self << 1;
+        QTest::newRow("cancel writes nothing") << QString() << true << "pushButtonCancel"
                                                << "" << 0;
         QTest::newRow("close writes nothing") << other << false << "pushButtonClose" << other << 0;
     }

@@ -1,6 +1,6 @@
 // The platform layer: what the Linux implementation keeps on disk (autostart entry, per-user
-// values), what it reads from the system (processes, key state), and the recording fake that
-// the window tests rely on.
+// values), what it reads from the system (processes, key state), and the shared timing of
+// keeping a window on top, seen through the recording fake.
 
 #include "FakePlatform.h"
 #include "Platform.h"
@@ -34,8 +34,6 @@ private slots:
     void processesByName();
     void keyStateFollowsKeyEvents();
 
-    void fakeRecordsInOrder();
-    void fakeKeepsState();
     void keepOnTopForAWhile();
 };
 
@@ -213,74 +211,6 @@ void TestPlatform::keyStateFollowsKeyEvents()
 #else
     QSKIP("GetKeyState itself on Windows");
 #endif
-}
-
-void TestPlatform::fakeRecordsInOrder()
-{
-    std::unique_ptr<Platform> previous =
-        Platform::replaceInstance(std::make_unique<FakePlatform>());
-    auto& fake = static_cast<FakePlatform&>(Platform::instance());
-    fake.windowsByTitle.insert(QStringLiteral("bymold"), 0x2b);
-
-    Platform& platform = Platform::instance();
-    const Platform::WindowId by = platform.findWindow(QStringLiteral("bymold"), QString());
-    platform.setWindowStyle(by, 0xD60A0000, 0x00080000);
-    platform.setWindowPos(by, Platform::ZOrder::Bottom, {},
-                          Platform::NoSize | Platform::HideWindowFlag);
-    platform.hideWindow(by);
-    platform.setWindowParent(by, 0x77);
-    platform.setUserValue(QStringLiteral("DeviceId"), 0);
-    platform.setUserValue(QStringLiteral("DevicePath"), QString());
-    platform.setBottomRoundedRegion(by, {1001, 701}, 32);
-    QCOMPARE(platform.findWindow(QStringLiteral("Orbe"), QString()), Platform::WindowId(0));
-
-    QCOMPARE(fake.operations, (QStringList{
-                                  QStringLiteral("findWindow(\"bymold\", \"\")"),
-                                  QStringLiteral("setWindowStyle(0x2b, 0xd60a0000, 0x80000)"),
-                                  QStringLiteral("setWindowPos(0x2b, Bottom, 0,0 0x0, 0x81)"),
-                                  QStringLiteral("hideWindow(0x2b)"),
-                                  QStringLiteral("setWindowParent(0x2b, 0x77)"),
-                                  QStringLiteral("setUserValue(\"DeviceId\", 0)"),
-                                  QStringLiteral("setUserValue(\"DevicePath\", \"\")"),
-                                  QStringLiteral("setBottomRoundedRegion(0x2b, 1001x701, 32)"),
-                                  QStringLiteral("findWindow(\"Orbe\", \"\")"),
-                              }));
-    QCOMPARE(fake.operationsNamed({"hideWindow", "setWindowParent"}),
-             (QStringList{QStringLiteral("hideWindow(0x2b)"),
-                          QStringLiteral("setWindowParent(0x2b, 0x77)")}));
-
-    std::unique_ptr<Platform> fakeBack = Platform::replaceInstance(std::move(previous));
-    QCOMPARE(fakeBack.get(), &fake);
-}
-
-void TestPlatform::fakeKeepsState()
-{
-    FakePlatform fake;
-    QVERIFY(fake.startProcess(QStringLiteral("C:/Hub/WsExe/Orbe-WS.exe")));
-    QVERIFY(fake.isProcessRunning(QStringLiteral("orbe-ws.exe")));
-    QVERIFY(fake.endProcess(QStringLiteral("ORBE-WS.EXE")));
-    QVERIFY(!fake.isProcessRunning(QStringLiteral("Orbe-WS.exe")));
-    QVERIFY(!fake.endProcess(QStringLiteral("Orbe-WS.exe")));
-
-    fake.processesStart = false;
-    QVERIFY(!fake.startProcess(QStringLiteral("C:/Hub/JmExe/Orbe-Gaming-Bub.exe")));
-    QVERIFY(!fake.isProcessRunning(QStringLiteral("Orbe-Gaming-Bub.exe")));
-
-    fake.setUserValue(QStringLiteral("OrbeReturn"), 1);
-    QCOMPARE(fake.userValue(QStringLiteral("OrbeReturn")).toInt(), 1);
-    fake.removeUserValue(QStringLiteral("OrbeReturn"));
-    QVERIFY(!fake.userValue(QStringLiteral("OrbeReturn")).isValid());
-
-    QVERIFY(fake.setAutostart(QStringLiteral("C:/Hub/OrbeHub.exe")));
-    QCOMPARE(fake.autostartProgram(), QStringLiteral("C:/Hub/OrbeHub.exe"));
-    QVERIFY(fake.clearAutostart());
-    QCOMPARE(fake.autostartProgram(), QString());
-
-    QCOMPARE(fake.operationNames(),
-             (QStringList{"startProcess", "isProcessRunning", "endProcess", "isProcessRunning",
-                          "endProcess", "startProcess", "isProcessRunning", "setUserValue",
-                          "userValue", "removeUserValue", "userValue", "setAutostart",
-                          "autostartProgram", "clearAutostart", "autostartProgram"}));
 }
 
 void TestPlatform::keepOnTopForAWhile()
