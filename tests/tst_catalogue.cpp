@@ -1,58 +1,23 @@
 // The device catalogue: the shipped files, the brand catalogue's search order and roots, the
-// custom list's marker, cleaning and split rules, and the number rule.
+// custom list's marker, cleaning and split rules, and the number rule. The shipped custom list's
+// records are found by the discovery tests, one family after another.
 
 #include "DiscoveryTables.h"
 #include "EnumerationPass.h"
 #include "OrbeDeviceBase.h"
+#include "TestSupport.h"
 
-#include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
 #include <QSettings>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTextStream>
 
 namespace {
 
 const QString kSourceRoot = QStringLiteral(ORBE_SOURCE_DIR);
 
 constexpr const char* kCatalogueKeys[] = {"keyboard", "mouse", "hitBoxKeyboard", "hitBoxScreen"};
-
-void writeFile(const QString& path, const QByteArray& content)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(content);
-}
-
-// The record lines of a custom list, fields trimmed, as the hub reads them.
-QList<QStringList> customRecords(const QString& path)
-{
-    QList<QStringList> records;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return records;
-    QTextStream in(&file);
-    bool marked = false;
-    QString line;
-    while (in.readLineInto(&line)) {
-        if (!marked) {
-            marked = line.trimmed() == QLatin1String(OrbeDeviceBase::kCustomListMarker);
-            continue;
-        }
-        line.remove(QLatin1Char('{')).remove(QLatin1Char('}')).remove(QLatin1Char('"'));
-        QStringList fields = line.trimmed().split(QLatin1Char(','));
-        if (fields.size() < 6) continue;
-        for (QString& f : fields)
-            f = f.trimmed();
-        records.append(fields);
-    }
-    return records;
-}
 
 } // namespace
 
@@ -67,7 +32,6 @@ private slots:
     // ---- what ships in config/
     void shippedBrandCatalogues_data();
     void shippedBrandCatalogues();
-    void shippedCustomList();
     void shippedEnumSettings();
 
     // ---- the brand catalogues
@@ -126,36 +90,6 @@ void TestCatalogue::shippedBrandCatalogues()
         QVERIFY(!OrbeDeviceBase::lookupName(native, type, selector, kSourceRoot).isEmpty());
         QCOMPARE(type, quint16(0));
     }
-}
-
-void TestCatalogue::shippedCustomList()
-{
-    const QString path = kSourceRoot + QLatin1String(OrbeDeviceBase::kCustomListFile);
-    const QList<QStringList> records = customRecords(path);
-    QVERIFY2(records.size() >= 3, "the marker line or the WS, BY and JM records are missing");
-    QSet<quint64> deviceIds;
-    QSet<QString> keys;
-    for (const QStringList& r : records) {
-        QVERIFY2(r.size() >= 7 && !r.at(6).isEmpty(), qPrintable(r.join(',')));
-        for (int column = 0; column < 3; ++column)
-            QVERIFY2(OrbeDeviceBase::parseNumber(r.at(column)) != 0, qPrintable(r.join(',')));
-        QVERIFY(OrbeDeviceBase::parseNumber(r.at(5)) <= 2);
-        const quint64 id = OrbeDeviceBase::parseNumber(r.at(0)) & 0xFFFF;
-        QVERIFY2(!deviceIds.contains(id), qPrintable(r.join(',')));
-        deviceIds.insert(id);
-        const QString key = QStringLiteral("%1:%2:%3")
-                                .arg(OrbeDeviceBase::parseNumber(r.at(1)) & 0xFFFF)
-                                .arg(OrbeDeviceBase::parseNumber(r.at(2)) & 0xFFFF)
-                                .arg(OrbeDeviceBase::parseNumber(r.at(3)));
-        QVERIFY2(!keys.contains(key), qPrintable(r.join(',')));
-        keys.insert(key);
-    }
-    // The JM family's fixed probe id has its record.
-    QString name;
-    quint16 type = 0xFFFF;
-    quint16 connection = 0xFFFF;
-    QVERIFY(OrbeDeviceBase::lookupCustom(0x3554, 0xF5D5, Discovery::kJmDeviceId, name, type,
-                                         connection, kSourceRoot) != 0);
 }
 
 void TestCatalogue::shippedEnumSettings()

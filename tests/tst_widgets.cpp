@@ -46,6 +46,13 @@ void sendMouse(QWidget* target, QEvent::Type type, const QPoint& pos,
     QCoreApplication::sendEvent(target, &event);
 }
 
+// The colour of a widget's own painting at a point.
+QString pixelAt(QWidget& widget, int x, int y)
+{
+    const QImage image = widget.grab().toImage();
+    return image.pixelColor(QPoint(x, y) * image.devicePixelRatio()).name();
+}
+
 QPropertyAnimation* animationOf(const CustomTabBar& bar, const char* property)
 {
     const QList<QPropertyAnimation*> animations = bar.findChildren<QPropertyAnimation*>();
@@ -70,8 +77,7 @@ private slots:
     void scrollValueEmptyList();
 
     void tabBarSlidesToCurrent();
-    void tabBarHover();
-    void tabBarPaints();
+    void tabBarHoverAndPainting();
 
     void toggleButtonToggles_data();
     void toggleButtonToggles();
@@ -230,23 +236,7 @@ void TestWidgets::tabBarSlidesToCurrent()
     QCOMPARE(widthSlide->state(), QAbstractAnimation::Stopped);
 }
 
-void TestWidgets::tabBarHover()
-{
-    CustomTabBar bar;
-    bar.addTab("one");
-    bar.addTab("two");
-    bar.resize(300, 40);
-    QCOMPARE(bar.hoveredTab(), -1);
-    sendMouse(&bar, QEvent::MouseMove, bar.tabRect(1).center(), Qt::NoButton);
-    QCOMPARE(bar.hoveredTab(), 1);
-    sendMouse(&bar, QEvent::MouseMove, bar.tabRect(0).center(), Qt::NoButton);
-    QCOMPARE(bar.hoveredTab(), 0);
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(&bar, &leave);
-    QCOMPARE(bar.hoveredTab(), -1);
-}
-
-void TestWidgets::tabBarPaints()
+void TestWidgets::tabBarHoverAndPainting()
 {
     CustomTabBar bar;
     bar.setStyleSheet("QTabBar::tab { width: 120px; height: 40px; }");
@@ -256,22 +246,28 @@ void TestWidgets::tabBarPaints()
     bar.setCurrentIndex(1);
     bar.resize(360, 40);
     bar.show();
+    QCOMPARE(bar.hoveredTab(), -1);
+    sendMouse(&bar, QEvent::MouseMove, bar.tabRect(0).center(), Qt::NoButton);
+    QCOMPARE(bar.hoveredTab(), 0);
     sendMouse(&bar, QEvent::MouseMove, bar.tabRect(2).center(), Qt::NoButton);
-    const QImage image = bar.grab().toImage();
-    const qreal ratio = image.devicePixelRatio();
-    auto at = [&](int x, int y) { return image.pixelColor(QPoint(x, y) * ratio).name(); };
+    QCOMPARE(bar.hoveredTab(), 2);
 
     const QRect normal = bar.tabRect(0);
     const QRect selected = bar.tabRect(1);
     const QRect hovered = bar.tabRect(2);
-    QCOMPARE(at(normal.left() + 3, normal.top() + 3), QString("#f0f0f0"));
-    QCOMPARE(at(selected.left() + 3, selected.top() + 3), QString("#ffffff"));
-    QCOMPARE(at(hovered.left() + 3, hovered.top() + 3), QString("#dcdcdc"));
+    QCOMPARE(pixelAt(bar, normal.left() + 3, normal.top() + 3), QString("#f0f0f0"));
+    QCOMPARE(pixelAt(bar, selected.left() + 3, selected.top() + 3), QString("#ffffff"));
+    QCOMPARE(pixelAt(bar, hovered.left() + 3, hovered.top() + 3), QString("#dcdcdc"));
     // The selected tab's underline, inset 20, 6 above the bottom.
     const int underlineY = selected.bottom() + 1 - 6 + 1;
-    QCOMPARE(at(selected.center().x(), underlineY), QString("#6329b6"));
-    QCOMPARE(at(selected.left() + 10, underlineY), QString("#ffffff"));
-    QCOMPARE(at(normal.center().x(), underlineY), QString("#f0f0f0"));
+    QCOMPARE(pixelAt(bar, selected.center().x(), underlineY), QString("#6329b6"));
+    QCOMPARE(pixelAt(bar, selected.left() + 10, underlineY), QString("#ffffff"));
+    QCOMPARE(pixelAt(bar, normal.center().x(), underlineY), QString("#f0f0f0"));
+
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&bar, &leave);
+    QCOMPARE(bar.hoveredTab(), -1);
+    QCOMPARE(pixelAt(bar, hovered.left() + 3, hovered.top() + 3), QString("#f0f0f0"));
 }
 
 // ---- ToggleButton
@@ -332,15 +328,12 @@ void TestWidgets::toggleButtonPaints()
     toggle.resize(52, 24);
     toggle.setChecked(checked);
     toggle.setEnabled(enabled);
-    const QImage image = toggle.grab().toImage();
-    const qreal ratio = image.devicePixelRatio();
-    auto at = [&](int x, int y) { return image.pixelColor(QPoint(x, y) * ratio).name(); };
     // The knob is 18 across, inside the pill from x 3 to 49.
     const int knobCentre = knobRight ? 49 - 9 : 3 + 9;
     const int otherSide = knobRight ? 3 + 9 : 49 - 9;
-    QCOMPARE(at(knobCentre, 12), knob);
-    QCOMPARE(at(otherSide, 12), pill);
-    QCOMPARE(at(26, 2), pill);
+    QCOMPARE(pixelAt(toggle, knobCentre, 12), knob);
+    QCOMPARE(pixelAt(toggle, otherSide, 12), pill);
+    QCOMPARE(pixelAt(toggle, 26, 2), pill);
 }
 
 // ---- SuperLabel and CustomTooltip
