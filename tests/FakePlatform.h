@@ -7,6 +7,7 @@
 #include "Platform.h"
 
 #include <QHash>
+#include <QRect>
 #include <QStringList>
 #include <QVariantMap>
 #include <initializer_list>
@@ -37,18 +38,27 @@ public:
     // The names alone, in order.
     QStringList operationNames() const;
 
-    void setConsoleOutputUtf8() override;
+    void setConsoleOutputUtf8() override { record("setConsoleOutputUtf8"); }
 
-    bool isSessionLocked() override;
-    qint64 millisecondsSinceInput() override;
-    qint16 keyState(int virtualKey) override;
+    bool isSessionLocked() override { return record("isSessionLocked"), locked; }
+    qint64 millisecondsSinceInput() override
+    {
+        return record("millisecondsSinceInput"), idleMilliseconds;
+    }
+    qint16 keyState(int virtualKey) override
+    {
+        return record("keyState", {hex(quint64(virtualKey))}), keyStates.value(virtualKey);
+    }
 
-    QString autostartProgram() override;
+    QString autostartProgram() override { return record("autostartProgram"), autostart; }
     bool setAutostart(const QString& programPath) override;
     bool clearAutostart() override;
-    void clearMachineAutostart() override;
+    void clearMachineAutostart() override { record("clearMachineAutostart"); }
 
-    QVariant userValue(const QString& key) override;
+    QVariant userValue(const QString& key) override
+    {
+        return record("userValue", {text(key)}), values.value(key);
+    }
     void setUserValue(const QString& key, const QVariant& value) override;
     void removeUserValue(const QString& key) override;
 
@@ -56,20 +66,47 @@ public:
     bool isProcessRunning(const QString& name) override;
     bool endProcess(const QString& name) override;
 
-    WindowId findWindow(const QString& title, const QString& className) override;
-    void setWindowParent(WindowId window, WindowId parent) override;
-    void setWindowStyle(WindowId window, quint32 style, quint32 exStyle) override;
-    void showWindow(WindowId window) override;
-    void hideWindow(WindowId window) override;
+    WindowId findWindow(const QString& title, const QString& className) override
+    {
+        return record("findWindow", {text(title), text(className)}), windowsByTitle.value(title);
+    }
+    void setWindowParent(WindowId window, WindowId parent) override
+    {
+        record("setWindowParent", {hex(window), hex(parent)});
+    }
+    void setWindowStyle(WindowId window, quint32 style, quint32 exStyle) override
+    {
+        record("setWindowStyle", {hex(window), hex(style), hex(exStyle)});
+    }
+    void showWindow(WindowId window) override { record("showWindow", {hex(window)}); }
+    void hideWindow(WindowId window) override { record("hideWindow", {hex(window)}); }
     void setWindowPos(WindowId window, ZOrder order, const QRect& geometry, quint32 flags) override;
-    void moveWindow(WindowId window, const QRect& geometry, bool repaint) override;
-    QRect windowRect(WindowId window) override;
-    void bringWindowToTop(WindowId window) override;
-    void setForegroundWindow(WindowId window) override;
-    void redrawWindow(WindowId window, quint32 flags) override;
+    void moveWindow(WindowId window, const QRect& geometry, bool repaint) override
+    {
+        record("moveWindow", {hex(window), rect(geometry), repaint ? "true" : "false"});
+    }
+    QRect windowRect(WindowId window) override
+    {
+        return record("windowRect", {hex(window)}), windowRects.value(window);
+    }
+    void bringWindowToTop(WindowId window) override { record("bringWindowToTop", {hex(window)}); }
+    void setForegroundWindow(WindowId window) override
+    {
+        record("setForegroundWindow", {hex(window)});
+    }
+    void redrawWindow(WindowId window, quint32 flags) override
+    {
+        record("redrawWindow", {hex(window), hex(flags)});
+    }
     void setBottomRoundedRegion(WindowId window, const QSize& size, int corner) override;
-    void postCloseMessage(WindowId window) override;
+    void postCloseMessage(WindowId window) override { record("postCloseMessage", {hex(window)}); }
 
 private:
     void record(const char* name, const QStringList& arguments = {});
+    static QString text(const QString& s) { return u'"' + s + u'"'; }
+    static QString hex(quint64 v) { return QStringLiteral("0x") + QString::number(v, 16); }
+    static QString rect(const QRect& r)
+    {
+        return QStringLiteral("%1,%2 %3x%4").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
+    }
 };
