@@ -100,379 +100,347 @@ class TestDiscovery : public QObject
 private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
 
-    void unsupportedDevicesAreNotListed();
-
-    void wiredProbeFrames();
-    void receiverStopsWhenLinkedAndIdle();
-    void bluetoothTries_data();
-    void bluetoothTries();
-    void hitScreenAndPendingPaths();
-
-    void newIdKeepsNameAndType();
-    void ageing();
-    void lostCurrentDeviceRaisesReturn();
-    void enumSettings_data();
-    void enumSettings();
-    void gate_data();
-    void gate();
-
-    void threadRunsRequestedPasses();
-    void silentDeviceHoldsThePassUntilStopped();
-    void unpluggingTheSilentDeviceFreesThePass();
-
-    void cliListsOnePass();
-};
-
-void TestDiscovery::unsupportedDevicesAreNotListed()
-{
-    Rig rig;
-    VirtualKeyboard* unknown = rig.hid.addWiredKeyboard(0x0999, 0x300, 0x0461, 0x4E6B);
-    auto* empty = rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0u, "sim:rx");
-    rig.hid.add<VirtualByDevice>(VirtualByDevice::Identity{.serial = "20240115a042"}, "sim:by");
-    // A WS product id outside the exclusion set is not a WS device.
-    auto* ws = rig.hid.add<VirtualWsDevice>(
-        VirtualWsDevice::Identity{.probeId = 0x21, .vendorId = 0x38EE, .productId = 0x0060},
-        "sim:ws");
-    for (int pass = 1; pass <= 2; ++pass) {
-        QVERIFY(rig.pass());
-        QCOMPARE(identifyCount(unknown->model()), pass); // asked at every pass
+    void unsupportedDevicesAreNotListed()
+    {
+        Rig rig;
+        VirtualKeyboard* unknown = rig.hid.addWiredKeyboard(0x0999, 0x300, 0x0461, 0x4E6B);
+        auto* empty = rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0u, "sim:rx");
+        rig.hid.add<VirtualByDevice>(VirtualByDevice::Identity{.serial = "20240115a042"}, "sim:by");
+        // A WS product id outside the exclusion set is not a WS device.
+        auto* ws = rig.hid.add<VirtualWsDevice>(
+            VirtualWsDevice::Identity{.probeId = 0x21, .vendorId = 0x38EE, .productId = 0x0060},
+            "sim:ws");
+        for (int pass = 1; pass <= 2; ++pass) {
+            QVERIFY(rig.pass());
+            QCOMPARE(identifyCount(unknown->model()), pass); // asked at every pass
+        }
+        QVERIFY(rig.registry.devices().isEmpty());
+        QVERIFY(empty->receivedCommands().contains(0xFC));
+        QCOMPARE(ws->writeCount(), 0);
     }
-    QVERIFY(rig.registry.devices().isEmpty());
-    QVERIFY(empty->receivedCommands().contains(0xFC));
-    QCOMPARE(ws->writeCount(), 0);
-}
 
-void TestDiscovery::wiredProbeFrames()
-{
-    ScriptRig rig;
-    FakeHidBackend& hid = rig.hid;
-    hid.addEntry(0x3151, 0x502F, 0xFFFF, 2, "cmd");
-    // Three rounds without 8F (not counted), then six rounds of 8F with id 0: a receiver that
-    // names no keyboard. Everything else is echoed.
-    int identifyRounds = 0;
-    hid.responder = [&](const QByteArray& f) {
-        if (quint8(f.at(0)) != 0x8F) return f.left(64);
-        return ++identifyRounds <= 3 ? QByteArray(64, '\0') : reply("8F");
-    };
-    QVERIFY(rig.registry.enumerateDevices());
-    QVERIFY(rig.registry.devices().isEmpty());
+    void wiredProbeFrames()
+    {
+        ScriptRig rig;
+        FakeHidBackend& hid = rig.hid;
+        hid.addEntry(0x3151, 0x502F, 0xFFFF, 2, "cmd");
+        // Three rounds without 8F (not counted), then six rounds of 8F with id 0: a receiver that
+        // names no keyboard. Everything else is echoed.
+        int identifyRounds = 0;
+        hid.responder = [&](const QByteArray& f) {
+            if (quint8(f.at(0)) != 0x8F) return f.left(64);
+            return ++identifyRounds <= 3 ? QByteArray(64, '\0') : reply("8F");
+        };
+        QVERIFY(rig.registry.enumerateDevices());
+        QVERIFY(rig.registry.devices().isEmpty());
 
-    QList<QByteArray> sent;
-    QList<qint64> at;
-    for (const FakeHidBackend::Transfer& t : hid.log) {
-        if (t.kind != "feature>") continue;
-        QCOMPARE(t.bytes.size(), 65);
-        sent.append(t.bytes.left(9));
-        at.append(t.at);
-    }
-    QByteArrayList expected;
-    for (int i = 0; i < 9; ++i)
+        QList<QByteArray> sent;
+        QList<qint64> at;
+        for (const FakeHidBackend::Transfer& t : hid.log) {
+            if (t.kind != "feature>") continue;
+            QCOMPARE(t.bytes.size(), 65);
+            sent.append(t.bytes.left(9));
+            at.append(t.at);
+        }
+        QByteArrayList expected;
+        for (int i = 0; i < 9; ++i)
+            expected.append(QByteArray::fromHex("008F000000000000 70"));
+        expected.append(QByteArray::fromHex("00F60A0000000000 FF"));
+        for (int i = 0; i < 5; ++i) // echoed F7: byte 6 never 1
+            expected.append(QByteArray::fromHex("00F7000000000000 08"));
         expected.append(QByteArray::fromHex("008F000000000000 70"));
-    expected.append(QByteArray::fromHex("00F60A0000000000 FF"));
-    for (int i = 0; i < 5; ++i) // echoed F7: byte 6 never 1
-        expected.append(QByteArray::fromHex("00F7000000000000 08"));
-    expected.append(QByteArray::fromHex("008F000000000000 70"));
-    for (int i = 0; i < 5; ++i) // echoed F7: byte 1 never 0
-        expected.append(QByteArray::fromHex("00F7000000000000 08"));
-    expected.append(QByteArray::fromHex("00FC000000000000 03"));
-    QCOMPARE(sent, expected);
-    // 150 ms to the answer, 50 ms to the next round; the receiver's steps 100 and 50.
-    for (int i = 1; i < 9; ++i)
-        QCOMPARE(at[i] - at[i - 1], 200);
-    QCOMPARE(at[9] - at[8], 150);
-    QCOMPARE(at[10] - at[9], 100);
-    QCOMPARE(at[11] - at[10], 150);
-    QCOMPARE(hid.openHandles(), 0);
-}
+        for (int i = 0; i < 5; ++i) // echoed F7: byte 1 never 0
+            expected.append(QByteArray::fromHex("00F7000000000000 08"));
+        expected.append(QByteArray::fromHex("00FC000000000000 03"));
+        QCOMPARE(sent, expected);
+        // 150 ms to the answer, 50 ms to the next round; the receiver's steps 100 and 50.
+        for (int i = 1; i < 9; ++i)
+            QCOMPARE(at[i] - at[i - 1], 200);
+        QCOMPARE(at[9] - at[8], 150);
+        QCOMPARE(at[10] - at[9], 100);
+        QCOMPARE(at[11] - at[10], 150);
+        QCOMPARE(hid.openHandles(), 0);
+    }
+    void receiverStopsWhenLinkedAndIdle()
+    {
+        Rig rig;
+        auto* receiver =
+            rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0x0EC3u, "sim:rx");
+        QVERIFY(rig.pass());
+        // Link up after two polls, the relayed 8F done after two more.
+        QCOMPARE(receiver->receivedCommands(),
+                 (QList<quint8>{0x8F, 0xF6, 0xF7, 0xF7, 0x8F, 0xF7, 0xF7, 0xF7, 0xFC}));
+        QCOMPARE(rig.hid.openHandleCount(), 0);
+    }
+    void bluetoothTries_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        QTest::addColumn<int>("writes");
+        QTest::addColumn<bool>("listed");
+        QTest::newRow("8F") << reply("8F", 0x0AF7) << 1 << true;
+        QTest::newRow("88 ends the tries too") << reply("88", 0x0AF7) << 1 << true;
+        QTest::newRow("other replies: five tries") << reply("00") << 5 << false;
+    }
+    void bluetoothTries()
+    {
+        QFETCH(QByteArray, answer);
+        QFETCH(int, writes);
+        QFETCH(bool, listed);
+        ScriptRig rig;
+        FakeHidBackend& hid = rig.hid;
+        hid.addEntry(0x3151, 0x5030, 0xFF55, 0x0202, "bt");
+        hid.responder = [&](const QByteArray&) { return answer; };
+        QVERIFY(rig.registry.enumerateDevices());
 
-void TestDiscovery::receiverStopsWhenLinkedAndIdle()
-{
-    Rig rig;
-    auto* receiver = rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0x0EC3u, "sim:rx");
-    QVERIFY(rig.pass());
-    // Link up after two polls, the relayed 8F done after two more.
-    QCOMPARE(receiver->receivedCommands(),
-             (QList<quint8>{0x8F, 0xF6, 0xF7, 0xF7, 0x8F, 0xF7, 0xF7, 0xF7, 0xFC}));
-    QCOMPARE(rig.hid.openHandleCount(), 0);
-}
+        QCOMPARE(hid.count("write"), writes);
+        const FakeHidBackend::Transfer& first = *std::find_if(
+            hid.log.begin(), hid.log.end(), [](const auto& t) { return t.kind == "write"; });
+        QCOMPARE(first.bytes, QByteArray::fromHex("06558F00000000000070").leftJustified(66, '\0'));
+        QCOMPARE(hid.log.at(1).kind, QStringLiteral("nonblock"));
+        QCOMPARE(hid.log.at(1).bytes, QByteArray(1, '\0'));
+        QCOMPARE(rig.registry.devices().size(), listed ? 1 : 0);
+        // The handle stays open after the probe; the next pass replaces it.
+        QCOMPARE(hid.openHandles(), 1);
+        QVERIFY(rig.registry.enumerateDevices());
+        QCOMPARE(hid.openHandles(), 1);
+    }
+    void hitScreenAndPendingPaths()
+    {
+        ScriptRig rig;
+        FakeHidBackend& hid = rig.hid;
+        hid.addEntry(0x3151, 0x504B, 0xFF01, 1, "not-a-screen");
+        hid.addEntry(0x3151, 0x0020, 0xFFFF, 2, "excluded");
+        hid.addEntry(0x3151, 0x502F, 0xFFFF, 2, "refuses");
+        hid.addEntry(0x3151, 0x502F, 0xFF55, 0x0001, "other-ff55"); // retries the pending path
+        hid.addEntry(0x3151, 0x504A, 0xFF01, 1, "screen");
+        hid.failingPaths = {"refuses"};
+        hid.responder = [](const QByteArray& f) {
+            return quint8(f.at(0)) == 0x8F ? reply("8F", 0x0D02) : f.left(64);
+        };
+        QVERIFY(rig.registry.enumerateDevices());
 
-void TestDiscovery::bluetoothTries_data()
-{
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<int>("writes");
-    QTest::addColumn<bool>("listed");
-    QTest::newRow("8F") << reply("8F", 0x0AF7) << 1 << true;
-    QTest::newRow("88 ends the tries too") << reply("88", 0x0AF7) << 1 << true;
-    QTest::newRow("other replies: five tries") << reply("00") << 5 << false;
-}
+        QCOMPARE(rig.opened(), (QByteArrayList{"refuses", "refuses", "screen"}));
+        const QList<DeviceEnumInfo> records = rig.registry.records();
+        QCOMPARE(records.size(), 1);
+        QCOMPARE(records[0].vendorPath, QStringLiteral("HitScreen"));
+        QCOMPARE(records[0].devicePath, QStringLiteral("screen"));
+        QCOMPARE(int(records[0].deviceType), 3);
+        QCOMPARE(records[0].displayName, QStringLiteral("ORBE Hit Box Screen"));
+    }
 
-void TestDiscovery::bluetoothTries()
-{
-    QFETCH(QByteArray, answer);
-    QFETCH(int, writes);
-    QFETCH(bool, listed);
-    ScriptRig rig;
-    FakeHidBackend& hid = rig.hid;
-    hid.addEntry(0x3151, 0x5030, 0xFF55, 0x0202, "bt");
-    hid.responder = [&](const QByteArray&) { return answer; };
-    QVERIFY(rig.registry.enumerateDevices());
+    void newIdKeepsNameAndType()
+    {
+        Rig rig;
+        VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
+        QVERIFY(rig.pass());
+        kb->model().setDeviceId(0x0C01); // a mouse's id in the catalogue
+        QVERIFY(rig.pass());
+        QCOMPARE(rig.registry.devices().size(), 1);
+        const DeviceEnumInfo* r = rig.find(kb->commandPath());
+        QCOMPARE(r->deviceId, 0x0C01ull);
+        QCOMPARE(r->displayName, QStringLiteral("ORBE HE75"));
+        QCOMPARE(int(r->deviceType), 0);
+    }
+    void ageing()
+    {
+        Rig rig;
+        VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
+        QVERIFY(rig.pass());
+        const DeviceEnumInfo* r = rig.find(kb->commandPath());
+        const quint32 firstSeen = r->lastSeen;
+        QCOMPARE(firstSeen, rig.registry.nowSeconds());
 
-    QCOMPARE(hid.count("write"), writes);
-    const FakeHidBackend::Transfer& first = *std::find_if(
-        hid.log.begin(), hid.log.end(), [](const auto& t) { return t.kind == "write"; });
-    QCOMPARE(first.bytes, QByteArray::fromHex("06558F00000000000070").leftJustified(66, '\0'));
-    QCOMPARE(hid.log.at(1).kind, QStringLiteral("nonblock"));
-    QCOMPARE(hid.log.at(1).bytes, QByteArray(1, '\0'));
-    QCOMPARE(rig.registry.devices().size(), listed ? 1 : 0);
-    // The handle stays open after the probe; the next pass replaces it.
-    QCOMPARE(hid.openHandles(), 1);
-    QVERIFY(rig.registry.enumerateDevices());
-    QCOMPARE(hid.openHandles(), 1);
-}
+        // Seen but answering id 0: online until the sighting is 60 s old.
+        kb->model().setDeviceId(0);
+        rig.clock.advance(30000);
+        QVERIFY(rig.pass());
+        QVERIFY(r->online);
+        QCOMPARE(r->lastSeen, firstSeen);
+        rig.clock.advance(31000);
+        QVERIFY(rig.pass());
+        QVERIFY(!r->online);
 
-void TestDiscovery::hitScreenAndPendingPaths()
-{
-    ScriptRig rig;
-    FakeHidBackend& hid = rig.hid;
-    hid.addEntry(0x3151, 0x504B, 0xFF01, 1, "not-a-screen");
-    hid.addEntry(0x3151, 0x0020, 0xFFFF, 2, "excluded");
-    hid.addEntry(0x3151, 0x502F, 0xFFFF, 2, "refuses");
-    hid.addEntry(0x3151, 0x502F, 0xFF55, 0x0001, "other-ff55"); // retries the pending path
-    hid.addEntry(0x3151, 0x504A, 0xFF01, 1, "screen");
-    hid.failingPaths = {"refuses"};
-    hid.responder = [](const QByteArray& f) {
-        return quint8(f.at(0)) == 0x8F ? reply("8F", 0x0D02) : f.left(64);
-    };
-    QVERIFY(rig.registry.enumerateDevices());
+        // Answering again brings it back.
+        kb->model().setDeviceId(0x0AF7);
+        QVERIFY(rig.pass());
+        QVERIFY(r->online);
+        QCOMPARE(rig.registry.onlineCount(), 1);
 
-    QCOMPARE(rig.opened(), (QByteArrayList{"refuses", "refuses", "screen"}));
-    const QList<DeviceEnumInfo> records = rig.registry.records();
-    QCOMPARE(records.size(), 1);
-    QCOMPARE(records[0].vendorPath, QStringLiteral("HitScreen"));
-    QCOMPARE(records[0].devicePath, QStringLiteral("screen"));
-    QCOMPARE(int(records[0].deviceType), 3);
-    QCOMPARE(records[0].displayName, QStringLiteral("ORBE Hit Box Screen"));
-}
+        // Gone from the machine: offline at the next pass.
+        kb->unplug();
+        QVERIFY(rig.pass());
+        QVERIFY(!r->online);
+        QCOMPARE(rig.registry.onlineCount(), 0);
 
-void TestDiscovery::newIdKeepsNameAndType()
-{
-    Rig rig;
-    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
-    QVERIFY(rig.pass());
-    kb->model().setDeviceId(0x0C01); // a mouse's id in the catalogue
-    QVERIFY(rig.pass());
-    QCOMPARE(rig.registry.devices().size(), 1);
-    const DeviceEnumInfo* r = rig.find(kb->commandPath());
-    QCOMPARE(r->deviceId, 0x0C01ull);
-    QCOMPARE(r->displayName, QStringLiteral("ORBE HE75"));
-    QCOMPARE(int(r->deviceType), 0);
-}
+        // The scan button empties the list; the record itself stays readable.
+        rig.registry.clear();
+        QVERIFY(rig.registry.devices().isEmpty());
+        QCOMPARE(r->displayName, QStringLiteral("ORBE HE75"));
+    }
+    void lostCurrentDeviceRaisesReturn()
+    {
+        Rig rig;
+        VirtualKeyboard* current = rig.hid.addWiredKeyboard();
+        VirtualKeyboard* other = rig.hid.addWirelessKeyboard();
+        QVERIFY(rig.pass());
+        rig.registry.setCurrentDevice(rig.registry.devices().first());
+        QCOMPARE(rig.registry.current()->devicePath, QString::fromLatin1(current->commandPath()));
+        auto settings = UserSettings::open(false);
+        settings->setValue(UserSettings::kReturnKey, 0);
+        settings->sync();
 
-void TestDiscovery::ageing()
-{
-    Rig rig;
-    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
-    QVERIFY(rig.pass());
-    const DeviceEnumInfo* r = rig.find(kb->commandPath());
-    const quint32 firstSeen = r->lastSeen;
-    QCOMPARE(firstSeen, rig.registry.nowSeconds());
+        other->unplug();
+        QVERIFY(rig.pass());
+        QCOMPARE(UserSettings::open(false)->value(UserSettings::kReturnKey).toInt(), 0);
+        current->unplug();
+        QVERIFY(rig.pass());
+        QCOMPARE(UserSettings::open(false)->value(UserSettings::kReturnKey).toInt(), 1);
+    }
+    void enumSettings_data()
+    {
+        QTest::addColumn<QByteArray>("ini");
+        QTest::addColumn<int>("wiredProbes");
+        QTest::addColumn<bool>("wsFound");
+        QTest::newRow("no file: defaults") << QByteArray() << 1 << true;
+        QTest::newRow("a vendor twice is probed twice")
+            << QByteArray("[General]\nVIDset0=\"0x3151, 0x3151\"\n") << 2 << true;
+        QTest::newRow("unquoted list")
+            << QByteArray("[General]\nVIDset0=0x3151, 12625, 0x0461\n") << 2 << true;
+        QTest::newRow("vendor not listed")
+            << QByteArray("[General]\nVIDset0=\"0x0461\"\n") << 0 << true;
+        QTest::newRow("VIDset1 changes nothing")
+            << QByteArray("[General]\nVIDset1=\"0x1234\"\n") << 1 << true;
+    }
+    void enumSettings()
+    {
+        QFETCH(QByteArray, ini);
+        QFETCH(int, wiredProbes);
+        QFETCH(bool, wsFound);
+        Rig rig;
+        const QString file = rig.app.path() + "/config/enumsetting.ini";
+        if (ini.isEmpty())
+            QFile::remove(file);
+        else
+            writeFile(file, ini);
+        VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
+        auto* ws = rig.hid.add<VirtualWsDevice>(VirtualWsDevice::Identity{}, "sim:ws");
+        QVERIFY(rig.pass());
+        QCOMPARE(identifyCount(kb->model()), wiredProbes);
+        QCOMPARE(rig.find(ws->path()) != nullptr, wsFound);
+        QCOMPARE(rig.find(kb->commandPath()) != nullptr, wiredProbes > 0);
+    }
+    void gate_data()
+    {
+        QTest::addColumn<bool>("suspended");
+        QTest::addColumn<bool>("shown");
+        QTest::addColumn<bool>("hosting");
+        QTest::addColumn<bool>("runs");
+        QTest::newRow("shown") << false << true << false << true;
+        QTest::newRow("suspended for the full read") << true << true << false << false;
+        QTest::newRow("hidden or minimised") << false << false << false << false;
+        QTest::newRow("hidden, hosting a sibling") << false << false << true << true;
+        QTest::newRow("suspended, hosting") << true << false << true << false;
+    }
+    void gate()
+    {
+        QFETCH(bool, suspended);
+        QFETCH(bool, shown);
+        QFETCH(bool, hosting);
+        QFETCH(bool, runs);
+        Rig rig;
+        VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
+        rig.registry.setScanSuspended(suspended);
+        rig.registry.setWindowShown(shown);
+        rig.registry.setHostedWindow(hosting);
+        QSignalSpy done(&rig.registry, &DeviceRegistry::oEnumDeiceDone);
+        QCOMPARE(rig.pass(), runs);
+        QCOMPARE(done.count(), runs ? 1 : 0);
+        QCOMPARE(identifyCount(kb->model()), runs ? 1 : 0);
+        QVERIFY(!rig.registry.isScanning());
+    }
 
-    // Seen but answering id 0: online until the sighting is 60 s old.
-    kb->model().setDeviceId(0);
-    rig.clock.advance(30000);
-    QVERIFY(rig.pass());
-    QVERIFY(r->online);
-    QCOMPARE(r->lastSeen, firstSeen);
-    rig.clock.advance(31000);
-    QVERIFY(rig.pass());
-    QVERIFY(!r->online);
+    void threadRunsRequestedPasses()
+    {
+        ThreadRig rig;
+        VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
+        rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0x0EC3u, "sim:rx");
+        QObject mainSide;
+        QList<QThread*> deliveredOn;
+        connect(
+            &rig.registry, &DeviceRegistry::oEnumDeiceDone, &mainSide,
+            [&] { deliveredOn.append(QThread::currentThread()); }, Qt::QueuedConnection);
 
-    // Answering again brings it back.
-    kb->model().setDeviceId(0x0AF7);
-    QVERIFY(rig.pass());
-    QVERIFY(r->online);
-    QCOMPARE(rig.registry.onlineCount(), 1);
+        rig.thread.requestScan();
+        QVERIFY(rig.clock.runUntil([&] { return rig.passes == 1; }, 60000));
+        QTRY_COMPARE(deliveredOn.size(), 1);
+        QCOMPARE(deliveredOn.first(), QThread::currentThread());
+        QCOMPARE(rig.registry.devices().size(), 2);
 
-    // Gone from the machine: offline at the next pass.
-    kb->unplug();
-    QVERIFY(rig.pass());
-    QVERIFY(!r->online);
-    QCOMPARE(rig.registry.onlineCount(), 0);
+        // A request while a pass runs gives one more pass after it.
+        rig.thread.requestScan();
+        QVERIFY(rig.clock.runUntil([&] { return rig.registry.isScanning(); }, 60000));
+        rig.thread.requestScan();
+        QVERIFY(rig.clock.runUntil([&] { return rig.passes == 3; }, 60000));
+        QCOMPARE(identifyCount(kb->model()), 3);
+    }
+    void silentDeviceHoldsThePassUntilStopped()
+    {
+        ThreadRig rig;
+        auto* silent =
+            rig.hid.add<VirtualSilentKeyboard>(quint16(0x3151), quint16(0x5041), "sim:silent");
+        VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
 
-    // The scan button empties the list; the record itself stays readable.
-    rig.registry.clear();
-    QVERIFY(rig.registry.devices().isEmpty());
-    QCOMPARE(r->displayName, QStringLiteral("ORBE HE75"));
-}
+        rig.thread.requestScan();
+        QVERIFY(!rig.clock.runUntil([] { return false; }, 60000));
+        // One round every 200 ms, none of them counted.
+        QVERIFY2(silent->requestCount() >= 299 && silent->requestCount() <= 301,
+                 qPrintable(QString::number(silent->requestCount())));
+        QVERIFY(rig.registry.isScanning());
+        QCOMPARE(rig.passes, 0);
+        QCOMPARE(identifyCount(kb->model()), 0);
 
-void TestDiscovery::lostCurrentDeviceRaisesReturn()
-{
-    Rig rig;
-    VirtualKeyboard* current = rig.hid.addWiredKeyboard();
-    VirtualKeyboard* other = rig.hid.addWirelessKeyboard();
-    QVERIFY(rig.pass());
-    rig.registry.setCurrentDevice(rig.registry.devices().first());
-    QCOMPARE(rig.registry.current()->devicePath, QString::fromLatin1(current->commandPath()));
-    auto settings = UserSettings::open(false);
-    settings->setValue(UserSettings::kReturnKey, 0);
-    settings->sync();
+        rig.thread.stop();
+        QVERIFY(rig.clock.runUntil([&] { return rig.thread.isFinished(); }, 1000));
+        QVERIFY(rig.thread.wait(10000));
+        QVERIFY(!rig.registry.isScanning());
+        QCOMPARE(rig.passes, 0);
+        QCOMPARE(rig.hid.openHandleCount(), 0);
+    }
+    void unpluggingTheSilentDeviceFreesThePass()
+    {
+        ThreadRig rig;
+        auto* silent =
+            rig.hid.add<VirtualSilentKeyboard>(quint16(0x3151), quint16(0x5041), "sim:silent");
+        VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
 
-    other->unplug();
-    QVERIFY(rig.pass());
-    QCOMPARE(UserSettings::open(false)->value(UserSettings::kReturnKey).toInt(), 0);
-    current->unplug();
-    QVERIFY(rig.pass());
-    QCOMPARE(UserSettings::open(false)->value(UserSettings::kReturnKey).toInt(), 1);
-}
+        rig.thread.requestScan();
+        QVERIFY(!rig.clock.runUntil([&] { return rig.passes > 0; }, 5000));
+        silent->unplug();
+        QVERIFY(rig.clock.runUntil([&] { return rig.passes == 1; }, 60000));
+        QCOMPARE(rig.registry.devices().size(), 1);
+        QCOMPARE(rig.registry.devices().first()->devicePath,
+                 QString::fromLatin1(kb->commandPath()));
+    }
 
-void TestDiscovery::enumSettings_data()
-{
-    QTest::addColumn<QByteArray>("ini");
-    QTest::addColumn<int>("wiredProbes");
-    QTest::addColumn<bool>("wsFound");
-    QTest::newRow("no file: defaults") << QByteArray() << 1 << true;
-    QTest::newRow("a vendor twice is probed twice")
-        << QByteArray("[General]\nVIDset0=\"0x3151, 0x3151\"\n") << 2 << true;
-    QTest::newRow("unquoted list")
-        << QByteArray("[General]\nVIDset0=0x3151, 12625, 0x0461\n") << 2 << true;
-    QTest::newRow("vendor not listed")
-        << QByteArray("[General]\nVIDset0=\"0x0461\"\n") << 0 << true;
-    QTest::newRow("VIDset1 changes nothing")
-        << QByteArray("[General]\nVIDset1=\"0x1234\"\n") << 1 << true;
-}
-
-void TestDiscovery::enumSettings()
-{
-    QFETCH(QByteArray, ini);
-    QFETCH(int, wiredProbes);
-    QFETCH(bool, wsFound);
-    Rig rig;
-    const QString file = rig.app.path() + "/config/enumsetting.ini";
-    if (ini.isEmpty())
-        QFile::remove(file);
-    else
-        writeFile(file, ini);
-    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
-    auto* ws = rig.hid.add<VirtualWsDevice>(VirtualWsDevice::Identity{}, "sim:ws");
-    QVERIFY(rig.pass());
-    QCOMPARE(identifyCount(kb->model()), wiredProbes);
-    QCOMPARE(rig.find(ws->path()) != nullptr, wsFound);
-    QCOMPARE(rig.find(kb->commandPath()) != nullptr, wiredProbes > 0);
-}
-
-void TestDiscovery::gate_data()
-{
-    QTest::addColumn<bool>("suspended");
-    QTest::addColumn<bool>("shown");
-    QTest::addColumn<bool>("hosting");
-    QTest::addColumn<bool>("runs");
-    QTest::newRow("shown") << false << true << false << true;
-    QTest::newRow("suspended for the full read") << true << true << false << false;
-    QTest::newRow("hidden or minimised") << false << false << false << false;
-    QTest::newRow("hidden, hosting a sibling") << false << false << true << true;
-    QTest::newRow("suspended, hosting") << true << false << true << false;
-}
-
-void TestDiscovery::gate()
-{
-    QFETCH(bool, suspended);
-    QFETCH(bool, shown);
-    QFETCH(bool, hosting);
-    QFETCH(bool, runs);
-    Rig rig;
-    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
-    rig.registry.setScanSuspended(suspended);
-    rig.registry.setWindowShown(shown);
-    rig.registry.setHostedWindow(hosting);
-    QSignalSpy done(&rig.registry, &DeviceRegistry::oEnumDeiceDone);
-    QCOMPARE(rig.pass(), runs);
-    QCOMPARE(done.count(), runs ? 1 : 0);
-    QCOMPARE(identifyCount(kb->model()), runs ? 1 : 0);
-    QVERIFY(!rig.registry.isScanning());
-}
-
-void TestDiscovery::threadRunsRequestedPasses()
-{
-    ThreadRig rig;
-    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
-    rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0x0EC3u, "sim:rx");
-    QObject mainSide;
-    QList<QThread*> deliveredOn;
-    connect(
-        &rig.registry, &DeviceRegistry::oEnumDeiceDone, &mainSide,
-        [&] { deliveredOn.append(QThread::currentThread()); }, Qt::QueuedConnection);
-
-    rig.thread.requestScan();
-    QVERIFY(rig.clock.runUntil([&] { return rig.passes == 1; }, 60000));
-    QTRY_COMPARE(deliveredOn.size(), 1);
-    QCOMPARE(deliveredOn.first(), QThread::currentThread());
-    QCOMPARE(rig.registry.devices().size(), 2);
-
-    // A request while a pass runs gives one more pass after it.
-    rig.thread.requestScan();
-    QVERIFY(rig.clock.runUntil([&] { return rig.registry.isScanning(); }, 60000));
-    rig.thread.requestScan();
-    QVERIFY(rig.clock.runUntil([&] { return rig.passes == 3; }, 60000));
-    QCOMPARE(identifyCount(kb->model()), 3);
-}
-
-void TestDiscovery::silentDeviceHoldsThePassUntilStopped()
-{
-    ThreadRig rig;
-    auto* silent =
-        rig.hid.add<VirtualSilentKeyboard>(quint16(0x3151), quint16(0x5041), "sim:silent");
-    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
-
-    rig.thread.requestScan();
-    QVERIFY(!rig.clock.runUntil([] { return false; }, 60000));
-    // One round every 200 ms, none of them counted.
-    QVERIFY2(silent->requestCount() >= 299 && silent->requestCount() <= 301,
-             qPrintable(QString::number(silent->requestCount())));
-    QVERIFY(rig.registry.isScanning());
-    QCOMPARE(rig.passes, 0);
-    QCOMPARE(identifyCount(kb->model()), 0);
-
-    rig.thread.stop();
-    QVERIFY(rig.clock.runUntil([&] { return rig.thread.isFinished(); }, 1000));
-    QVERIFY(rig.thread.wait(10000));
-    QVERIFY(!rig.registry.isScanning());
-    QCOMPARE(rig.passes, 0);
-    QCOMPARE(rig.hid.openHandleCount(), 0);
-}
-
-void TestDiscovery::unpluggingTheSilentDeviceFreesThePass()
-{
-    ThreadRig rig;
-    auto* silent =
-        rig.hid.add<VirtualSilentKeyboard>(quint16(0x3151), quint16(0x5041), "sim:silent");
-    VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
-
-    rig.thread.requestScan();
-    QVERIFY(!rig.clock.runUntil([&] { return rig.passes > 0; }, 5000));
-    silent->unplug();
-    QVERIFY(rig.clock.runUntil([&] { return rig.passes == 1; }, 60000));
-    QCOMPARE(rig.registry.devices().size(), 1);
-    QCOMPARE(rig.registry.devices().first()->devicePath, QString::fromLatin1(kb->commandPath()));
-}
-
-// The one pass in real time, over every family and route of the --simulate set: the tool's list
-// prints each record's family, connection, id, online flag, name, vendor path and device path.
-void TestDiscovery::cliListsOnePass()
-{
-    QProcess cli;
-    cli.start(QStringLiteral(ORBEHUB_CLI), {"--simulate", "list"});
-    QVERIFY(cli.waitForFinished(60000));
-    QCOMPARE(cli.exitCode(), 0);
-    QCOMPARE(QString::fromUtf8(cli.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts),
-             QStringList({
-                 "0\t0\t0x0AF7\t1\tORBE HE75\tsim:3151:502F:2\tsim:3151:502F:2",
-                 "0\t2\t0x0AF7\t1\tORBE HE75\tnull\tsim:3151:5030:FF55",
-                 "0\t1\t0x0EC3\t1\tORBE HE98\tsim:25A7:FA70:2\tsim:25A7:FA70:2",
-                 "1\t1\t0x1101\t1\tWS Virtual 2.4G\tnull\tsim:38EE:0030:FF1C",
-                 "2\t0\t0x2201\t1\tBY Virtual 65\t202401150042\t202401150042",
-                 "3\t2\t0x3301\t1\tJM Virtual BT\tnull\tsim:3554:F5D5:FF02",
-             }));
-}
+    // The one pass in real time, over every family and route of the --simulate set: the tool's list
+    // prints each record's family, connection, id, online flag, name, vendor path and device path.
+    void cliListsOnePass()
+    {
+        QProcess cli;
+        cli.start(QStringLiteral(ORBEHUB_CLI), {"--simulate", "list"});
+        QVERIFY(cli.waitForFinished(60000));
+        QCOMPARE(cli.exitCode(), 0);
+        QCOMPARE(QString::fromUtf8(cli.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts),
+                 QStringList({
+                     "0\t0\t0x0AF7\t1\tORBE HE75\tsim:3151:502F:2\tsim:3151:502F:2",
+                     "0\t2\t0x0AF7\t1\tORBE HE75\tnull\tsim:3151:5030:FF55",
+                     "0\t1\t0x0EC3\t1\tORBE HE98\tsim:25A7:FA70:2\tsim:25A7:FA70:2",
+                     "1\t1\t0x1101\t1\tWS Virtual 2.4G\tnull\tsim:38EE:0030:FF1C",
+                     "2\t0\t0x2201\t1\tBY Virtual 65\t202401150042\t202401150042",
+                     "3\t2\t0x3301\t1\tJM Virtual BT\tnull\tsim:3554:F5D5:FF02",
+                 }));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestDiscovery)
 #include "tst_discovery.moc"
