@@ -23,16 +23,14 @@ VirtualByDevice::VirtualByDevice(std::mutex& backendLock, Clock* deviceClock,
 
 QList<HidDeviceInfo> VirtualByDevice::interfaces() const
 {
-    HidDeviceInfo info;
-    info.vendorId = identity.vendorId;
-    info.productId = identity.productId;
-    info.usagePage = kUsagePage;
-    info.usage = kUsage;
-    info.interfaceNumber = 1;
-    info.path = path();
-    info.manufacturer = QStringLiteral("BY");
-    info.product = QStringLiteral("BY Virtual Keyboard");
-    return {info};
+    return {entry({.vendorId = identity.vendorId,
+                   .productId = identity.productId,
+                   .usagePage = kUsagePage,
+                   .usage = kUsage,
+                   .interfaceNumber = 1,
+                   .path = path(),
+                   .manufacturer = "BY",
+                   .product = "BY Virtual Keyboard"})};
 }
 
 int VirtualByDevice::write(int, const quint8* data, size_t length)

@@ -64,3 +64,17 @@ int VirtualDevice::read(int, quint8*, size_t)
 {
     return 0;
 }
+
+HidDeviceInfo VirtualDevice::entry(const Entry& e)
+{
+    HidDeviceInfo info;
+    info.vendorId = e.vendorId;
+    info.productId = e.productId;
+    info.usagePage = e.usagePage;
+    info.usage = e.usage;
+    info.interfaceNumber = e.interfaceNumber;
+    info.path = e.path;
+    info.manufacturer = QString::fromUtf8(e.manufacturer);
+    info.product = QString::fromUtf8(e.product);
+    return info;
+}

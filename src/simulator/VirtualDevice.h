@@ -40,6 +40,20 @@ protected:
     // Transfers that were in the air are lost with the cable.
     virtual void onUnplugged() {}
 
+    // One enumeration entry, as a device with a single interface lists it.
+    struct Entry
+    {
+        quint16 vendorId;
+        quint16 productId;
+        quint16 usagePage;
+        quint16 usage;
+        int interfaceNumber;
+        QByteArray path;
+        const char* manufacturer;
+        const char* product;
+    };
+    static HidDeviceInfo entry(const Entry& e);
+
     std::mutex& lock;
     Clock* clock;
 

@@ -26,16 +26,14 @@ int VirtualSilentKeyboard::requestCount() const
 
 QList<HidDeviceInfo> VirtualSilentKeyboard::interfaces() const
 {
-    HidDeviceInfo info;
-    info.vendorId = vid;
-    info.productId = pid;
-    info.usagePage = kUsagePage;
-    info.usage = kCommandUsage;
-    info.interfaceNumber = 1;
-    info.path = commandPath();
-    info.manufacturer = QStringLiteral("Orbe");
-    info.product = QStringLiteral("Orbe HE Keyboard (boot)");
-    return {info};
+    return {entry({.vendorId = vid,
+                   .productId = pid,
+                   .usagePage = kUsagePage,
+                   .usage = kCommandUsage,
+                   .interfaceNumber = 1,
+                   .path = commandPath(),
+                   .manufacturer = "Orbe",
+                   .product = "Orbe HE Keyboard (boot)"})};
 }
 
 int VirtualSilentKeyboard::sendFeatureReport(int, const quint8* data, size_t length)

@@ -40,16 +40,14 @@ int VirtualWsDevice::writeCount() const
 
 QList<HidDeviceInfo> VirtualWsDevice::interfaces() const
 {
-    HidDeviceInfo info;
-    info.vendorId = identity.vendorId;
-    info.productId = identity.productId;
-    info.usagePage = kUsagePage;
-    info.usage = kUsage;
-    info.interfaceNumber = 2;
-    info.path = path();
-    info.manufacturer = QStringLiteral("WS");
-    info.product = QStringLiteral("WS Virtual Keyboard");
-    return {info};
+    return {entry({.vendorId = identity.vendorId,
+                   .productId = identity.productId,
+                   .usagePage = kUsagePage,
+                   .usage = kUsage,
+                   .interfaceNumber = 2,
+                   .path = path(),
+                   .manufacturer = "WS",
+                   .product = "WS Virtual Keyboard"})};
 }
 
 int VirtualWsDevice::write(int, const quint8* data, size_t length)
