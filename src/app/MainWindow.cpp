@@ -11,6 +11,7 @@
 #include "FrameSystemInfo.h"
 #include "HidBackend.h"
 #include "ModuleLangMenu.h"
+#include "OrbeDeviceBase.h"
 #include "OrbeDeviceEnum.h"
 #include "Platform.h"
 #include "ScanDebounce.h"
@@ -100,7 +101,7 @@ QString instanceKey(bool tarnwickBuild)
 MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, const QString& dir,
                        QWidget* parent)
     : QMainWindow(parent), clock(clk ? clk : QtClock::shared()),
-      appDir(dir.isEmpty() ? QCoreApplication::applicationDirPath() : dir), hid(std::move(backend)),
+      appDir(OrbeDeviceBase::rootDir(dir)), hid(std::move(backend)),
       registry(std::make_unique<DeviceRegistry>(hid.get(), clock, appDir)),
       poller(std::make_unique<BatteryPoller>(hid.get(), clock))
 {

@@ -44,8 +44,8 @@ public:
     enum Page { CardPage = 0, SiblingPage = 1, DevicePage = 2 };
 
     // clock null means the real one; tests pass a manual clock. appDir holds "config/" and
-    // "images/"; empty means the application's directory. A second hub leaves in here with
-    // exit code 0, after asking the first to come forward.
+    // "images/"; empty means the folder the program ships them in. A second hub leaves in here
+    // with exit code 0, after asking the first to come forward.
     explicit MainWindow(std::unique_ptr<HidBackend> hid, Clock* clock = nullptr,
                         const QString& appDir = QString(), QWidget* parent = nullptr);
     ~MainWindow() override;

@@ -1,10 +1,12 @@
 #include "AppLog.h"
 #include "AppStartup.h"
 #include "HidBackend.h"
+#include "InstallLayout.h"
 #include "MainWindow.h"
 #include "Platform.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLocale>
 #include <QTranslator>
 #include <clocale>
@@ -26,6 +28,12 @@ int main(int argc, char* argv[])
     std::setlocale(LC_ALL, ".UTF-8");
 
     QApplication app(argc, argv);
+
+    const InstallLayout layout;
+    qCInfo(lcApp) << "shipped files in" << layout.dataDir() << "settings in"
+                  << layout.settingsDir();
+    if (!QFileInfo(layout.dataDir() + QStringLiteral("/images")).isDir())
+        qCWarning(lcApp) << "no images folder in" << layout.dataDir() << "- the cards stay blank";
 
     QTranslator appTranslator;
     AppStartup::installAppTranslation(appTranslator, QLocale::system().uiLanguages());

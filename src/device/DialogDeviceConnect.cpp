@@ -7,9 +7,9 @@
 #include "DeviceLog.h"
 #include "Frame.h"
 #include "HidBackend.h"
+#include "InstallLayout.h"
 #include "MagnetTables.h"
 
-#include <QCoreApplication>
 #include <QSettings>
 
 namespace {
@@ -41,7 +41,7 @@ DialogDeviceConnect::DialogDeviceConnect(HidBackend* hidBackend, Clock* clk,
     if (!g_instance) g_instance = this;
 
     const QString path = settingsPath.isEmpty()
-                             ? QCoreApplication::applicationDirPath() + "/config/device.ini"
+                             ? InstallLayout().settingsFile(QStringLiteral("device.ini"))
                              : settingsPath;
     settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
     lineVid = settings->value("lastVID", "3151").toString();

@@ -5,8 +5,8 @@
 #include "DeviceCardTables.h"
 #include "DeviceEnumInfo.h"
 #include "HubLog.h"
+#include "OrbeDeviceBase.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
@@ -57,9 +57,7 @@ Clock* cardClock()
 
 QString imagesDir()
 {
-    const QString dir =
-        context().appDir.isEmpty() ? QCoreApplication::applicationDirPath() : context().appDir;
-    return dir + QStringLiteral("/images/");
+    return OrbeDeviceBase::rootDir(context().appDir) + QStringLiteral("/images/");
 }
 
 QString badge(const char* name)
@@ -216,6 +214,10 @@ void FrameDeviceShow::setImage(const QString& path, int deviceType)
         deviceImg = imagesDir() + QStringLiteral("default%1.png").arg(deviceType);
         picture = QPixmap(deviceImg);
     }
+    if (picture.isNull())
+        qCWarning(lcHub) << "no picture" << path << "nor" << deviceImg;
+    else
+        qCDebug(lcHub) << "card picture" << deviceImg;
     if (!picture.isNull()) {
         const QSize size = imageSize(picture.size(), width());
         labelImage->setFixedSize(size);

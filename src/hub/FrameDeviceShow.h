@@ -32,7 +32,7 @@ public:
     static constexpr int kSmallCardWidth = 280; // mice and type 2
 
     // What every card uses: the clock of its timers, the battery poller, and the folder that
-    // holds "images/" (empty: the application's).
+    // holds "images/" (empty: the folder the program ships them in).
     struct Context
     {
         Clock* clock = nullptr;

@@ -1,8 +1,8 @@
 #include "OrbeDeviceBase.h"
 
 #include "HubLog.h"
+#include "InstallLayout.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -133,7 +133,7 @@ QString lookupBrand(const QString& path, quint32 deviceId, quint16& deviceType)
 
 QString OrbeDeviceBase::rootDir(const QString& appDir)
 {
-    return appDir.isEmpty() ? QCoreApplication::applicationDirPath() : appDir;
+    return appDir.isEmpty() ? InstallLayout().dataDir() : appDir;
 }
 
 quint64 OrbeDeviceBase::parseNumber(const QString& text)

@@ -36,6 +36,7 @@ public:
     // "0X", decimal otherwise. Text that does not parse gives 0.
     static quint64 parseNumber(const QString& text);
 
-    // The directory the files are read from: appDir, or the application's when empty.
+    // The directory the files are read from: appDir, or when empty the folder the program
+    // ships them in (beside it, or the install prefix's data folder).
     static QString rootDir(const QString& appDir);
 };
