@@ -3,6 +3,7 @@
 #   resources/hub-images      built into the program under ":/images/"
 #   resources/shipped-images  copied beside the program as images/ (start-up pictures, the
 #                             default picture of each device type, one picture per device)
+#   packaging/linux/icons     the application icon in the hicolor theme's sizes
 # Run again after changing a drawing; the PNGs are committed. The output is the same byte for
 # byte on every run.
 set -eu
@@ -11,7 +12,8 @@ build=${ORBE_DRAW_BUILD:-$here/build-draw-images}
 
 cmake -S "$here/tools/draw-images" -B "$build" -DCMAKE_BUILD_TYPE=Release >/dev/null
 cmake --build "$build" -j2
-rm -rf "$here/resources/hub-images" "$here/resources/shipped-images"
+rm -rf "$here/resources/hub-images" "$here/resources/shipped-images" "$here/packaging/linux/icons"
 QT_QPA_PLATFORM=offscreen "$build/orbe_draw_images" \
-  "$here/resources/hub-images" "$here/resources/shipped-images"
-echo "drew $(find "$here/resources/hub-images" "$here/resources/shipped-images" -name '*.png' | wc -l) pictures"
+  "$here/resources/hub-images" "$here/resources/shipped-images" "$here/packaging/linux/icons"
+echo "drew $(find "$here/resources/hub-images" "$here/resources/shipped-images" \
+  "$here/packaging/linux/icons" -name '*.png' | wc -l) pictures"

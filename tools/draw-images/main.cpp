@@ -1,9 +1,11 @@
 // Draws every picture of the hub.
-//   orbe_draw_images <resource folder> <folder beside the program>
+//   orbe_draw_images <resource folder> <folder beside the program> <icon theme folder>
 // The first receives what is built into ":/images/", the second the start-up pictures, the
 // default device pictures and one picture per catalogue device, named after the device with
-// blanks as dashes (the form the hub looks up).
+// blanks as dashes (the form the hub looks up), the third the application icon in the hicolor
+// theme's sizes (hicolor/<n>x<n>/apps/<application id>.png), installed for the desktop.
 
+#include "AppIconArt.h"
 #include "Art.h"
 #include "BrandArt.h"
 #include "DeviceArt.h"
@@ -85,6 +87,9 @@ constexpr std::array<DevicePicture, 21> kDevices{{
 
 constexpr double kKeyboardUnit = 60; // pixels per key
 
+// The desktop's name of the hub: its desktop entry, metainfo and icon are named after it.
+constexpr const char* kAppId = "org.orbehub.OrbeHub";
+
 QImage devicePicture(const DevicePicture& device)
 {
     const bool isDefault = QLatin1String(device.file).startsWith(QLatin1String("default"));
@@ -110,12 +115,18 @@ int main(int argc, char* argv[])
 {
     QGuiApplication app(argc, argv);
     const QStringList args = app.arguments();
-    if (args.size() != 3) {
-        QTextStream(stderr) << "usage: orbe_draw_images <resource folder> <beside folder>\n";
+    if (args.size() != 4) {
+        QTextStream(stderr)
+            << "usage: orbe_draw_images <resource folder> <beside folder> <icon theme folder>\n";
         return 2;
     }
     const QString res = args.at(1) + u'/';
     const QString beside = args.at(2) + u'/';
+    const QString icons = args.at(3) + u'/';
+
+    for (int size : AppIconArt::kSizes)
+        Art::save(AppIconArt::appIcon(size),
+                  icons + QStringLiteral("hicolor/%1x%1/apps/%2.png").arg(size).arg(kAppId));
 
     Art::save(BrandArt::orbeWordMark(), res + "OrbeFlag.png");
     Art::save(BrandArt::tarnwickWordMark(), res + "Trwlogo.png");
