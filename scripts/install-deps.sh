@@ -1,14 +1,32 @@
 #!/usr/bin/env bash
-# Installs the Debian 12 packages the build and the tests need, if any is missing.
+# Installs the Debian 12 packages that are missing, if any:
+#   scripts/install-deps.sh run    what building and running the programs needs (./run.sh)
+#   scripts/install-deps.sh test   that, and what the tests and checks need (./test.sh)
 # Uses sudo when not run as root.
 set -euo pipefail
 
-packages=(
+run_packages=(
   build-essential cmake pkg-config
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-qpa-plugins
   libhidapi-dev libgl-dev libpulse-dev libudev-dev
-  g++-mingw-w64-x86-64-posix
 )
+# The Windows platform layer's syntax check; the installed hub under a virtual display; the
+# desktop entry, metainfo and manual page checks; the package's build (dpkg-shlibdeps, file).
+test_packages=(
+  g++-mingw-w64-x86-64-posix
+  xvfb xauth
+  appstream desktop-file-utils groff-base
+  dpkg-dev file
+)
+
+case "${1:-}" in
+run) packages=("${run_packages[@]}") ;;
+test) packages=("${run_packages[@]}" "${test_packages[@]}") ;;
+*)
+  echo "usage: $0 run|test" >&2
+  exit 2
+  ;;
+esac
 
 missing=()
 for p in "${packages[@]}"; do
