@@ -6,7 +6,7 @@
 #      and pictures from the prefix and writes only to the user's folders; the installed tool
 #      keeps device.ini in the user's config folder;
 #   3. with dpkg-deb: `cpack -G DEB` builds the package, its fields and files are checked;
-#   4. as root with dpkg: the package installs, the hub starts from /usr, the package goes
+#   4. as root with dpkg: the package installs, the hub starts from /usr, the package is purged
 #      again and leaves nothing behind.
 # Says what it skipped and why; exits non-zero at the first failure.
 set -euo pipefail
@@ -16,7 +16,13 @@ build=$(cd "${1:-$here/build}" && pwd)
 app_id=org.orbehub.OrbeHub
 
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+package_installed=0
+cleanup() {
+  # Whatever stopped the run, the machine doesn't keep the package.
+  [ $package_installed = 1 ] && dpkg --purge orbehub >/dev/null 2>&1
+  rm -rf "$work"
+}
+trap cleanup EXIT
 
 fail() {
   echo "check-install: FAIL: $*" >&2
@@ -140,21 +146,26 @@ if ! command -v dpkg >/dev/null; then
   step "SKIPPED dpkg -i: no dpkg here"
   exit 0
 fi
+# Several checkouts may run this at once on one machine: one package test at a time.
+exec 9>/tmp/orbehub-check-install.lock
+flock 9
 if dpkg-query -W -f='${Status}' orbehub 2>/dev/null | grep -q "ok installed"; then
   step "SKIPPED dpkg -i: orbehub is installed on this machine already; left as it is"
   exit 0
 fi
-# Several checkouts may run this at once on one machine: one package test at a time.
-exec 9>/tmp/orbehub-check-install.lock
-flock 9
-dpkg -i "$deb" >"$work/dpkg.log" 2>&1 || { cat "$work/dpkg.log"; dpkg -r orbehub >/dev/null 2>&1 || true; fail "dpkg -i"; }
+package_installed=1
+dpkg -i "$deb" >"$work/dpkg.log" 2>&1 || { cat "$work/dpkg.log"; fail "dpkg -i"; }
 installed_ok=0
 (
   check_hub /usr/bin/orbehub /usr/share/orbehub
   [ -f /usr/lib/udev/rules.d/70-orbehub.rules ] || [ -f /lib/udev/rules.d/70-orbehub.rules ] ||
     fail "the package left out the udev rule"
 ) && installed_ok=1
-dpkg -r orbehub >"$work/dpkg.log" 2>&1 || { cat "$work/dpkg.log"; fail "dpkg -r"; }
+dpkg --purge orbehub >"$work/dpkg.log" 2>&1 || { cat "$work/dpkg.log"; fail "dpkg --purge"; }
+package_installed=0
 [ $installed_ok = 1 ] || fail "the installed package did not work"
-[ ! -e /usr/bin/orbehub ] && [ ! -e /usr/share/orbehub ] || fail "dpkg -r left files behind"
-step "dpkg -i, the hub from /usr, dpkg -r: done"
+[ ! -e /usr/bin/orbehub ] && [ ! -e /usr/share/orbehub ] || fail "dpkg --purge left files behind"
+if dpkg-query -W -f='${Status}' orbehub 2>/dev/null | grep -qE "installed|config-files"; then
+  fail "dpkg still lists orbehub after the purge"
+fi
+step "dpkg -i, the hub from /usr, dpkg --purge: done"
