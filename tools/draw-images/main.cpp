@@ -11,6 +11,7 @@
 #include "DeviceArt.h"
 #include "IconArt.h"
 #include "KeyboardArt.h"
+#include "LightArt.h"
 
 #include <QGuiApplication>
 #include <QTextStream>
@@ -154,6 +155,9 @@ int main(int argc, char* argv[])
     Art::save(IconArt::connection(IconArt::Link::Usb), res + "dev/usb.png");
     Art::save(IconArt::connection(IconArt::Link::Receiver), res + "dev/2.4g.png");
     Art::save(IconArt::connection(IconArt::Link::Bluetooth), res + "dev/ble.png");
+    Art::save(LightArt::pipette(), res + "pickup2.png");
+    Art::save(LightArt::colourHighlight(), res + "Color-picked.png");
+    Art::save(LightArt::lightBand(), res + "light/light.png");
 
     Art::save(BrandArt::orbeSplash(), beside + "MainPicture.png");
     Art::save(BrandArt::tarnwickSplash(), beside + "trgear.png");
