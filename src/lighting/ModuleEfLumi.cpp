@@ -1,0 +1,7 @@
+#include "ModuleEfLumi.h"
+
+ModuleEfLumi::ModuleEfLumi(QWidget* parent)
+    : EffectLevel(QStringLiteral("horizontalSlider"), parent)
+{
+    retranslate();
+}

@@ -1,0 +1,7 @@
+#include "ModuleEfSpeed.h"
+
+ModuleEfSpeed::ModuleEfSpeed(QWidget* parent)
+    : EffectLevel(QStringLiteral("horiCyanSlider"), parent)
+{
+    retranslate();
+}
