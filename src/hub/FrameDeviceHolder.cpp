@@ -83,7 +83,7 @@ FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, QWidget* par
     buildForm();
 
     auto* keySetting = new FrameKeySetting(this);
-    frameMain = new FrameMain(this);
+    frameMain = new FrameMain(device, this, clock);
     auto* magic = new FrameMagic(this);
     auto* macro = new FrameMacro(this);
     auto* light = new FrameLight(this);
