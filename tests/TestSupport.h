@@ -49,3 +49,11 @@ private:
     QTemporaryDir dir;
 };
 #endif
+
+// A widget of a page by its object name; the test stops at once when the page has none.
+template <class T> T* widget(const QObject* root, const char* name)
+{
+    T* found = root->findChild<T*>(QLatin1String(name));
+    if (!found) qFatal("no %s named %s", T::staticMetaObject.className(), name);
+    return found;
+}

@@ -5,7 +5,7 @@
 #include "ConnectionRig.h"
 #include "KeyPositions.h"
 #include "MagnetTables.h"
-#include "VirtualHidBackend.h"
+#include "SimRig.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -34,40 +34,6 @@ struct FakeRig : ConnectionRig
         clock.advance(2000);
         return hid.sentFrames(64);
     }
-};
-
-// A connection on the virtual keyboard, with the first read sequence finished.
-struct SimRig
-{
-    ManualClock clock;
-    VirtualHidBackend hid{&clock};
-    VirtualKeyboard* keyboard;
-    QTemporaryDir dir;
-    std::unique_ptr<DialogDeviceConnect> conn;
-
-    explicit SimRig(bool wireless = false)
-        : keyboard(wireless ? hid.addWirelessKeyboard() : hid.addWiredKeyboard())
-    {
-        conn = std::make_unique<DialogDeviceConnect>(&hid, &clock, dir.filePath("device.ini"));
-        QObject::connect(conn.get(), &DialogDeviceConnect::onUpdataLayer, conn.get(),
-                         [this](int layer) { conn->DoSetProfile(quint8(layer)); });
-        if (wireless)
-            conn->DoConnectDevice(keyboard->vendorId(), keyboard->productId(), true, "0AF7",
-                                  QString::fromLatin1(keyboard->commandPath()));
-        else
-            conn->connectStep(); // the console's Connect button, on device.ini's defaults
-        QVERIFY2(settle(), "first read sequence");
-    }
-    bool settle()
-    {
-        return clock.advanceUntil([this] { return conn->isIdle(); }, 60000, 5);
-    }
-    bool readAgain()
-    {
-        conn->DoReadAll();
-        return settle();
-    }
-    const NativeKeyboardModel& fw() const { return keyboard->model(); }
 };
 
 } // namespace

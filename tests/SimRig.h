@@ -1,0 +1,56 @@
+#pragma once
+
+// A connection on the virtual keyboard in virtual time, for the tests that check what reached
+// the firmware: the protocol's round trips and the pages.
+
+#include "DialogDeviceConnect.h"
+#include "ManualClock.h"
+#include "VirtualHidBackend.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <memory>
+
+// A connection on the virtual keyboard, with the first read sequence finished.
+struct SimRig
+{
+    ManualClock clock;
+    VirtualHidBackend hid{&clock};
+    VirtualKeyboard* keyboard;
+    QTemporaryDir dir;
+    std::unique_ptr<DialogDeviceConnect> conn;
+
+    explicit SimRig(bool wireless = false)
+        : keyboard(wireless ? hid.addWirelessKeyboard() : hid.addWiredKeyboard())
+    {
+        conn = std::make_unique<DialogDeviceConnect>(&hid, &clock, dir.filePath("device.ini"));
+        QObject::connect(conn.get(), &DialogDeviceConnect::onUpdataLayer, conn.get(),
+                         [this](int layer) { conn->DoSetProfile(quint8(layer)); });
+        if (wireless)
+            conn->DoConnectDevice(keyboard->vendorId(), keyboard->productId(), true, "0AF7",
+                                  QString::fromLatin1(keyboard->commandPath()));
+        else
+            conn->connectStep(); // the console's Connect button, on device.ini's defaults
+        QVERIFY2(settle(), "first read sequence");
+    }
+    bool settle()
+    {
+        return clock.advanceUntil([this] { return conn->isIdle(); }, 60000, 5);
+    }
+    bool readAgain()
+    {
+        conn->DoReadAll();
+        return settle();
+    }
+    const NativeKeyboardModel& fw() const { return keyboard->model(); }
+};
+
+// The frames of one command the firmware received since it last forgot them, each cut to n
+// bytes.
+inline QList<QByteArray> framesOf(const NativeKeyboardModel& firmware, quint8 command, int n = 12)
+{
+    QList<QByteArray> out;
+    for (const QByteArray& frame : firmware.receivedFrames())
+        if (quint8(frame.at(0)) == command) out.append(frame.left(n));
+    return out;
+}
