@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="zh_CN">
 <context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>完成</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上任意位置取色</source>
+        <translation>Hold and drag anywhere on the screen to pick its colour</translation>
+    </message>
+    <message>
+        <source>此桌面不允许程序读取屏幕，屏幕取色不可用</source>
+        <translation>This desktop doesn&apos;t let programs read the screen: picking a colour from the screen is unavailable</translation>
+    </message>
+</context>
+<context>
     <name>DialogDeviceConsole</name>
     <message>
         <source>Orbe Studio 设备调试</source>
@@ -110,6 +125,17 @@
     </message>
 </context>
 <context>
+    <name>FrameMain</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>Rapid trigger (all keys)</translation>
+    </message>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>Key travel (all keys)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -184,6 +210,270 @@
     <message>
         <source>点击设备进入设置</source>
         <translation>Click a device to set it up</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>炫彩</source>
+        <translation>Rainbow</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Steady</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Breathing</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Stream</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Wave</translation>
+    </message>
+    <message>
+        <source>系统默认</source>
+        <translation>Presets</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>Side light</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>Single key</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>Effect:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>Speed:</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>Brightness:</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>Colour:</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Colour picker</translation>
+    </message>
+    <message>
+        <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
+        <translation>Click a colour: it turns to the middle and lights the keys</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>Brightness</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>常亮</source>
+        <translation>Steady</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Breathing</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>Meteor</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>Ripple</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>Aurora</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>Raindrops</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>Converge</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Stream</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Wave</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>Starlight</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>Shadow</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>Sine wave</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>Fountain</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>Blossom</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>Two birds</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>Winding path</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>Drizzle</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>Snow steps</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>Endless layers</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>Light and shadow</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>Music</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Custom picture</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Up</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Down</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Zigzag</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>Spiral</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>Inward</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>Outward</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>To the right</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>To the left</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>Picture 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>Picture 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>Picture 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>Picture 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>Picture 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>Clockwise</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Anticlockwise</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>灯效模式</source>
+        <translation>Light effect</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>Play mode:</translation>
+    </message>
+    <message>
+        <source>打开时关闭键盘灯光</source>
+        <translation>On: the keyboard&apos;s lights are off</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>Speed</translation>
     </message>
 </context>
 <context>
@@ -282,7 +572,7 @@
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Back</translation>
     </message>
     <message>
         <source>Fn键锁屏</source>
@@ -626,7 +916,7 @@
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Macros</translation>
     </message>
     <message>
         <source>功能</source>
@@ -701,10 +991,28 @@
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Press (mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>Release (mm)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>拖动指针或点按 − / + 调整，所有按键立即生效。</source>
+        <translation>Drag the pointer or press − / +: every key takes the value at once.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="zh_CN">
 <context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>完成</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上任意位置取色</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>此桌面不允许程序读取屏幕，屏幕取色不可用</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DialogDeviceConsole</name>
     <message>
         <source>Orbe Studio 设备调试</source>
@@ -110,6 +125,17 @@
     </message>
 </context>
 <context>
+    <name>FrameMain</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -183,6 +209,270 @@
     </message>
     <message>
         <source>点击设备进入设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>炫彩</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>系统默认</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>常亮</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>灯效模式</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>打开时关闭键盘灯光</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -701,9 +991,27 @@
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>拖动指针或点按 − / + 调整，所有按键立即生效。</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

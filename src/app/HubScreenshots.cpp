@@ -1,14 +1,17 @@
-// Runs the hub over the virtual devices in English and saves two pictures of its window: the
-// cards once every device is listed (cards.png) and the page of a native keyboard once it has
-// been read (shell.png). orbe_hub_screenshots <folder>; not installed, for the README.
+// Runs the hub over the virtual devices in English and saves pictures of its window: the cards
+// once every device is listed (cards.png), the home page of a native keyboard once it has been
+// read (shell.png), its custom colour tab with the colour picker open over it (picker.png).
+// orbe_hub_screenshots <folder>; not installed, for the README.
 
 #include "AppStartup.h"
 #include "Clock.h"
 #include "DeviceEnumInfo.h"
 #include "DeviceRegistry.h"
+#include "DialogColorPicker.h"
 #include "DialogDeviceConnect.h"
 #include "FrameDeviceShow.h"
 #include "MainWindow.h"
+#include "ModuleEfColor.h"
 #include "Platform.h"
 #include "VirtualHidBackend.h"
 
@@ -16,7 +19,9 @@
 #include <QCursor>
 #include <QDir>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QStandardPaths>
+#include <QTabWidget>
 #include <QTextStream>
 #include <QTimer>
 #include <QTranslator>
@@ -47,6 +52,16 @@ void click(QWidget* widget)
     QCoreApplication::sendEvent(widget, &release);
 }
 
+// The screen where the window stands, so that the picker's own window is in the picture.
+bool saveScreen(QWidget& window, const QString& path)
+{
+    const QRect area = window.frameGeometry();
+    const bool ok =
+        window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height()).save(path);
+    QTextStream(stdout) << (ok ? "wrote " : "could not write ") << path << '\n';
+    return ok;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -67,7 +82,7 @@ int main(int argc, char* argv[])
     window.show();
     QCursor::setPos(0, 0); // no card under the pointer: none shows its hover style
 
-    enum class Step { Cards, Settle, Shell, Done } step = Step::Cards;
+    enum class Step { Cards, Settle, Shell, Picker, Done } step = Step::Cards;
     int waited = 0;
     int result = 1;
     QTimer poll;
@@ -94,11 +109,24 @@ int main(int argc, char* argv[])
         case Step::Shell: {
             DialogDeviceConnect* link = window.connection();
             if (!link->isConnected() || !link->isIdle() || link->GetKeyMatrix(0).isEmpty()) return;
-            result = save(window, out + QStringLiteral("/shell.png")) ? 0 : 1;
+            if (!save(window, out + QStringLiteral("/shell.png"))) app.exit(1);
+            // The custom colours of the home page, with the picker opened beside them.
+            auto* colours = window.findChild<ModuleEfColor*>(QStringLiteral("frameLEDColor"));
+            colours->findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(1);
+            DialogColorPicker* picker = colours->picker();
+            picker->setColor(QColor(0x6F, 0x3C, 0xE0));
+            const QPoint at = colours->mapToGlobal(QPoint(colours->width() - 40, 40));
+            picker->showAt(at.x(), at.y());
+            step = Step::Picker;
+            waited = 0;
+            return;
+        }
+        case Step::Picker:
+            if (waited < 600) return; // the picker's window is mapped and painted
+            result = saveScreen(window, out + QStringLiteral("/picker.png")) ? 0 : 1;
             step = Step::Done;
             app.exit(result);
             return;
-        }
         case Step::Done:
             return;
         }
