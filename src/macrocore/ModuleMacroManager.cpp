@@ -1,15 +1,13 @@
 #include "ModuleMacroManager.h"
 
+#include "DataFolder.h"
+#include "JsonFile.h"
 #include "MacroLog.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QJsonParseError>
-#include <QSaveFile>
 
 namespace {
 
@@ -19,9 +17,6 @@ constexpr char kFolderName[] = "macro";
 constexpr char kHeaderFile[] = "macroheader.txt";
 constexpr char kEventFilePattern[] = "macroevent%1.txt";
 constexpr char kVersion[] = "20260109"; // written, never checked
-
-constexpr QIODevice::OpenMode kWriteMode =
-    QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text;
 
 // Record layouts of the packed stream.
 namespace Packing {
@@ -33,22 +28,8 @@ constexpr quint8 kDelayRecord = 0xF9; // opens the record of a type-3 action
 // A missing or unreadable file and a broken one all read as an empty document.
 QJsonDocument readDocument(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        // A missing file is normal: a first start, or a macro never saved.
-        if (file.exists())
-            qCWarning(lcMacros) << "cannot read" << path << file.errorString();
-        else
-            qCDebug(lcMacros) << "no file" << path;
-        return {};
-    }
-    QJsonParseError error;
-    const QJsonDocument doc = QJsonDocument::fromJson(file.readAll(), &error);
-    if (error.error != QJsonParseError::NoError) {
-        qCWarning(lcMacros) << "broken file" << path << "at" << error.offset << error.errorString();
-        return {};
-    }
-    if (!doc.isObject()) {
+    const QJsonDocument doc = JsonFile::read(path, &lcMacros);
+    if (!doc.isNull() && !doc.isObject()) {
         qCWarning(lcMacros) << "unexpected content in" << path;
         return {};
     }
@@ -66,24 +47,7 @@ QJsonArray readList(const QString& path, const char* key)
 
 bool writeDocument(const QString& path, const QJsonObject& root)
 {
-    QSaveFile file(path);
-    if (!file.open(kWriteMode)) {
-        qCWarning(lcMacros) << "cannot write" << path << file.errorString();
-        return false;
-    }
-    const QByteArray data = QJsonDocument(root).toJson(QJsonDocument::Indented);
-    // Flushed by hand: commit() alone misses a failed final flush and installs a cut file
-    // (QTBUG-75077).
-    if (file.write(data) != data.size() || !file.flush()) {
-        qCWarning(lcMacros) << "write failed" << path << file.errorString();
-        file.cancelWriting();
-        return false;
-    }
-    if (!file.commit()) {
-        qCWarning(lcMacros) << "could not replace" << path << file.errorString();
-        return false;
-    }
-    return true;
+    return JsonFile::write(path, QJsonDocument(root), &lcMacros);
 }
 
 void appendActionRecord(QByteArray& out, const MacroEvent& action, quint16 delay)
@@ -127,9 +91,11 @@ ModuleMacroManager::ModuleMacroManager(const QString& baseDir, QObject* parent) 
 {
     if (!s_instance) s_instance = this;
 
-    const QString base = baseDir.isEmpty() ? QCoreApplication::applicationDirPath() : baseDir;
-    m_folder = QDir(base).absolutePath() + QDir::separator() + QLatin1String(kFolderName) +
-               QDir::separator();
+    // Beside the program when it can be written there, else in the user's data folder.
+    const QString folder = baseDir.isEmpty()
+                               ? DataFolder::locate(QLatin1String(kFolderName))
+                               : QDir(baseDir).absoluteFilePath(QLatin1String(kFolderName));
+    m_folder = folder + QDir::separator();
     if (!QDir().mkpath(m_folder))
         qCWarning(lcMacros) << "cannot create the macro folder" << m_folder;
     LoadHeader();

@@ -1,0 +1,3 @@
+#include "FileLog.h"
+
+Q_LOGGING_CATEGORY(lcFiles, "orbe.files", QtInfoMsg)

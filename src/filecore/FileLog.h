@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+// Which folder the hub keeps its own files in: QT_LOGGING_RULES="orbe.files.debug=true".
+Q_DECLARE_LOGGING_CATEGORY(lcFiles)
