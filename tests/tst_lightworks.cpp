@@ -1,0 +1,131 @@
+// The light works library on disk and the folder the hub's own files go to: works round trip
+// in order; a broken, truncated or foreign file reads as an empty library, stays as it was until
+// works are saved over it and is then kept beside; a failed write leaves the old file whole;
+// the folder beside the program is used when it can be written, else the user's data folder.
+
+#include "DataFolder.h"
+#include "LightWorkStore.h"
+#include "TestSupport.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QList<LightWork> kTwoWorks{{"iVBORw0KGgo=", "Sunset", "ff000000ff00"}, {"", "", "0000ff"}};
+
+} // namespace
+
+class TestLightWorks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void roundTrip()
+    {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath("work");
+        {
+            LightWorkStore store(folder);
+            QVERIFY(QDir(folder).exists()); // made at once
+            QVERIFY(store.load().isEmpty());
+            QVERIFY(!store.loadedBroken()); // missing is not broken
+            QVERIFY(store.save(kTwoWorks));
+        }
+        LightWorkStore again(folder);
+        QCOMPARE(again.load(), kTwoWorks);
+        const QJsonDocument doc = QJsonDocument::fromJson(readFile(again.filePath()));
+        QCOMPARE(doc.array().size(), 2);
+        QCOMPARE(doc.array().at(0).toObject().value("data").toString(),
+                 QStringLiteral("ff000000ff00"));
+        QVERIFY(readFile(again.filePath()).contains("\n    {")); // indented
+        QVERIFY(again.keptBrokenFile().isEmpty());
+    }
+
+    void brokenFiles_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("truncated") << QByteArray("[\n    {\n        \"data\": \"ff00");
+        QTest::newRow("not JSON") << QByteArray("\x89PNG\r\n\x1a\n garbage", 16);
+        QTest::newRow("an object, not a list") << QByteArray("{\"name\": \"x\"}");
+        QTest::newRow("empty") << QByteArray();
+    }
+    void brokenFiles()
+    {
+        QFETCH(QByteArray, content);
+        QTemporaryDir dir;
+        const QString folder = dir.filePath("work");
+        writeFile(folder + "/ledwork.json", content);
+        writeFile(folder + "/other.txt", "kept");
+
+        LightWorkStore store(folder);
+        QVERIFY(store.load().isEmpty());
+        QVERIFY(store.loadedBroken());
+        QCOMPARE(readFile(store.filePath()), content); // left as it was
+
+        QVERIFY(store.save({kTwoWorks.first()}));
+        QCOMPARE(readFile(store.keptBrokenFile()), content);
+        QCOMPARE(readFile(folder + "/other.txt"), QByteArray("kept"));
+        LightWorkStore again(folder);
+        QCOMPARE(again.load(), QList<LightWork>{kTwoWorks.first()});
+        QVERIFY(!again.loadedBroken());
+    }
+
+    // Entries that aren't works are left out; the rest load in order.
+    void foreignEntries()
+    {
+        QTemporaryDir dir;
+        writeFile(dir.filePath("ledwork.json"), R"([1, {"name": "A", "data": "01"}, "x", {}])");
+        LightWorkStore store(dir.path());
+        QCOMPARE(store.load(), (QList<LightWork>{{"", "A", "01"}, {"", "", ""}}));
+        QVERIFY(!store.loadedBroken());
+    }
+
+    // A file that can't be replaced leaves the old one whole.
+    void failedWrite()
+    {
+        QTemporaryDir dir;
+        LightWorkStore store(dir.path());
+        QVERIFY(store.save(kTwoWorks));
+        QVERIFY(QFile::remove(store.filePath()));
+        QVERIFY(QDir().mkpath(store.filePath())); // a folder where the file would go
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression("cannot write|could not replace|write failed"));
+        QVERIFY(!store.save({}));
+        QVERIFY(QFileInfo(store.filePath()).isDir());
+        QVERIFY(QDir(store.filePath()).isEmpty());
+    }
+
+    void colourMapText()
+    {
+        const QByteArray map = QByteArray::fromHex("00dc00ff8000");
+        QCOMPARE(LightWorkStore::toHex(map), QStringLiteral("00dc00ff8000"));
+        QCOMPARE(LightWorkStore::fromHex("00DC00ff8000"), map);
+        QCOMPARE(LightWorkStore::fromHex("00dcZZ").size(), 2); // bad text: a short map
+    }
+
+    void dataFolder()
+    {
+        QTemporaryDir dir;
+        QCOMPARE(DataFolder::locate("work", dir.path()), QDir::cleanPath(dir.filePath("work")));
+
+        // A base that can't hold a folder: the user's data folder takes the files.
+        writeFile(dir.filePath("plain-file"), "x");
+        const QString perUser = DataFolder::locate("work", dir.filePath("plain-file"));
+        QCOMPARE(perUser,
+                 QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                                 "/work"));
+        QVERIFY(DataFolder::usable(perUser));
+        QVERIFY(!DataFolder::usable(dir.filePath("plain-file/work")));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestLightWorks)
+#include "tst_lightworks.moc"
