@@ -1,9 +1,10 @@
-// The light works library on disk and the folder the hub's own files go to: works round trip
-// in order; a broken, truncated or foreign file reads as an empty library, stays as it was until
-// works are saved over it and is then kept beside; a failed write leaves the old file whole;
-// the folder beside the program is used when it can be written, else the user's data folder.
+// The light works library on disk and the folder the user's files go to: works round trip in
+// order; a broken, truncated or foreign file reads as an empty library, stays as it was until
+// works are saved over it and is then kept beside; a failed write leaves nothing half done; the
+// folder beside the program is used in a build tree that can be written, else the user's data
+// folder.
 
-#include "DataFolder.h"
+#include "InstallLayout.h"
 #include "LightWorkStore.h"
 #include "TestSupport.h"
 
@@ -11,6 +12,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -111,19 +113,35 @@ private slots:
         QCOMPARE(LightWorkStore::fromHex("00dcZZ").size(), 2); // bad text: a short map
     }
 
-    void dataFolder()
+    // Beside the program in a build tree that can be written; in the user's data folder when
+    // installed or when the program's folder can't hold one.
+    void userFilesFolder_data()
     {
-        QTemporaryDir dir;
-        QCOMPARE(DataFolder::locate("work", dir.path()), QDir::cleanPath(dir.filePath("work")));
+        QTest::addColumn<QStringList>("folders"); // made under the root
+        QTest::addColumn<QString>("program");     // relative to the root
+        QTest::addColumn<bool>("beside");
+        const QString shared = QDir::cleanPath(QStringLiteral("bin/" ORBE_DATA_FROM_BIN));
+        QTest::newRow("build tree") << QStringList{"bin/config"} << "bin" << true;
+        QTest::newRow("installed") << QStringList{"bin", shared + "/config"} << "bin" << false;
+        QTest::newRow("program folder is not a folder") << QStringList{} << "file" << false;
+    }
+    void userFilesFolder()
+    {
+        QFETCH(QStringList, folders);
+        QFETCH(QString, program);
+        QFETCH(bool, beside);
+        QTemporaryDir root;
+        for (const QString& folder : folders)
+            QVERIFY(QDir().mkpath(root.filePath(folder)));
+        writeFile(root.filePath("file"), "not a folder");
 
-        // A base that can't hold a folder: the user's data folder takes the files.
-        writeFile(dir.filePath("plain-file"), "x");
-        const QString perUser = DataFolder::locate("work", dir.filePath("plain-file"));
-        QCOMPARE(perUser,
-                 QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-                                 "/work"));
-        QVERIFY(DataFolder::usable(perUser));
-        QVERIFY(!DataFolder::usable(dir.filePath("plain-file/work")));
+        const QString folder = InstallLayout(root.filePath(program)).userFilesDir("work");
+        QCOMPARE(folder, beside ? root.filePath(program + "/work")
+                                : InstallLayout::userDataDir() + "/work");
+        LightWorkStore store(folder);
+        const auto tidy = qScopeGuard([&] { QFile::remove(store.filePath()); });
+        QVERIFY(store.save(kTwoWorks));
+        QCOMPARE(LightWorkStore(folder).load(), kTwoWorks);
     }
 };
 

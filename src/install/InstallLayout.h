@@ -24,8 +24,16 @@ public:
     // A settings file by name inside settingsDir().
     QString settingsFile(const QString& name) const;
 
+    // The folder for the files a user makes, by name ("macro", "work"): beside the program in
+    // a build tree as long as files can be made there, otherwise under the user's data folder.
+    // Made if missing; the choice is logged and nothing is moved. Empty if neither folder can
+    // be made (logged).
+    QString userFilesDir(const QString& name) const;
+
     // The per-user folder for settings, whatever the layout.
     static QString userSettingsDir();
+    // The per-user folder for the files a user makes, whatever the layout.
+    static QString userDataDir();
 
 private:
     QString program;

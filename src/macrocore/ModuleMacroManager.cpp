@@ -1,6 +1,6 @@
 #include "ModuleMacroManager.h"
 
-#include "DataFolder.h"
+#include "InstallLayout.h"
 #include "JsonFile.h"
 #include "MacroLog.h"
 
@@ -93,7 +93,7 @@ ModuleMacroManager::ModuleMacroManager(const QString& baseDir, QObject* parent) 
 
     // Beside the program when it can be written there, else in the user's data folder.
     const QString folder = baseDir.isEmpty()
-                               ? DataFolder::locate(QLatin1String(kFolderName))
+                               ? InstallLayout().userFilesDir(QLatin1String(kFolderName))
                                : QDir(baseDir).absoluteFilePath(QLatin1String(kFolderName));
     m_folder = folder + QDir::separator();
     if (!QDir().mkpath(m_folder))

@@ -7,8 +7,8 @@
 #include <QObject>
 #include <QString>
 
-// The user's macros, in memory and in the "macro" folder beside the program (or, where that
-// folder can't be written, in the user's data folder): one header file with the list, one
+// The user's macros, in memory and in the "macro" folder beside the program (installed, or where
+// that folder can't be written, in the user's data folder): one header file with the list, one
 // event file per macro id. The first instance made is the one that instance() returns. GUI
 // thread only.
 class ModuleMacroManager : public QObject
@@ -19,8 +19,8 @@ public:
     static constexpr int kMaxMacros = 50; // ids 0 .. 49
     static constexpr int kFirstStartMacros = 8;
 
-    // The store lives in baseDir/macro/; an empty baseDir means the application's directory
-    // when "macro" can be written there, else the user's data folder.
+    // The store lives in baseDir/macro/; an empty baseDir means the folder the install layout
+    // gives the user's files (InstallLayout::userFilesDir).
     // Creates the folder if needed and loads the header.
     explicit ModuleMacroManager(const QString& baseDir = QString(), QObject* parent = nullptr);
     ~ModuleMacroManager() override;
