@@ -34,6 +34,8 @@ constexpr quint8 kStatusCommand = 0xF7;
 constexpr int kStatusBattery = 1; // offsets in the logical reply
 constexpr int kStatusLink = 5;
 
+constexpr quint8 kMusicCommand = 0x0D;
+
 } // namespace
 
 VirtualKeyboard::VirtualKeyboard(std::mutex& backendLock, Clock* deviceClock, bool isWirelessKb,
@@ -145,7 +147,11 @@ int VirtualKeyboard::sendFeatureReport(int interfaceIndex, const quint8* data, s
         data[0] != Frame::kWiredReportId)
         return -1;
     const size_t frameLength = std::min<size_t>(length - 1, kFrameSize);
-    featureBuffer = run(QByteArray(reinterpret_cast<const char*>(data) + 1, int(frameLength)));
+    const QByteArray answer =
+        run(QByteArray(reinterpret_cast<const char*>(data) + 1, int(frameLength)));
+    // The music report is a stream with no answer of its own: the reply of the last command
+    // stays where the queue's read finds it, however many music reports came in between.
+    if (data[1] != kMusicCommand) featureBuffer = answer;
     return int(length);
 }
 

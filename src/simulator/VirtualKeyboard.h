@@ -9,8 +9,9 @@
 
 // A native keyboard as the host sees it. Wired: an input interface (usage page FFFF, usage 1)
 // that streams key-test reports, and a command interface (usage 2) spoken to with 65-byte
-// feature reports. Wireless: one interface (usage page FF55, usage 0202) spoken to with 66-byte
-// output reports 06 55 + frame, whose answers queue up as input reports.
+// feature reports; the music report may come on a second open of the command interface and
+// leaves the queue's reply alone. Wireless: one interface (usage page FF55, usage 0202) spoken
+// to with 66-byte output reports 06 55 + frame, whose answers queue up as input reports.
 class VirtualKeyboard : public VirtualDevice
 {
 public:
