@@ -11,10 +11,12 @@ run_packages=(
   libhidapi-dev libgl-dev libpulse-dev libudev-dev
 )
 # The Windows platform layer's syntax check; the installed hub under a virtual display; the
-# desktop entry, metainfo and manual page checks; the package's build (dpkg-shlibdeps, file).
+# desktop entry, metainfo and manual page checks; the package's build (dpkg-shlibdeps, file);
+# a private sound server with a tone for the loopback capture's test.
 test_packages=(
   g++-mingw-w64-x86-64-posix
   xvfb xauth
+  pulseaudio pulseaudio-utils sox
   appstream desktop-file-utils groff-base
   dpkg-dev file
 )
