@@ -180,7 +180,9 @@ bool ModuleMacroManager::SaveHeader()
         {QStringLiteral("count"), int(m_macros.size())},
         {QStringLiteral("macro"), list},
     };
-    return writeDocument(headerPath(), root);
+    const bool written = writeDocument(headerPath(), root);
+    emit listSaved();
+    return written;
 }
 
 void ModuleMacroManager::LoadHeader()
@@ -230,7 +232,10 @@ bool ModuleMacroManager::SaveEvents(Macro* macro)
             {QStringLiteral("text"), event->text},
         });
     }
-    return writeDocument(eventPath(macro->id), QJsonObject{{QStringLiteral("data"), data}});
+    const bool written =
+        writeDocument(eventPath(macro->id), QJsonObject{{QStringLiteral("data"), data}});
+    emit macroSaved(macro->id);
+    return written;
 }
 
 void ModuleMacroManager::LoadEvents(Macro* macro)

@@ -53,6 +53,13 @@ public:
     // macro or one without events.
     static QByteArray PackMacro(const Macro* macro);
 
+signals:
+    // After SaveHeader, whether the file could be written or not: the list or a name changed,
+    // so that a picker refreshes its names.
+    void listSaved();
+    // After SaveEvents of the macro with this id, likewise.
+    void macroSaved(quint8 id);
+
 private:
     QString m_folder; // ends with a separator
     QList<Macro*> m_macros;
