@@ -4,6 +4,7 @@
 #   resources/shipped-images  copied beside the program as images/ (start-up pictures, the
 #                             default picture of each device type, one picture per device)
 #   packaging/linux/icons     the application icon in the hicolor theme's sizes
+#   resources/macro-images    the macro page's pictures, built into ":/images/macropage/"
 # Run again after changing a drawing; the PNGs are committed. The output is the same byte for
 # byte on every run.
 set -eu
@@ -12,8 +13,8 @@ build=${ORBE_DRAW_BUILD:-$here/build-draw-images}
 
 cmake -S "$here/tools/draw-images" -B "$build" -DCMAKE_BUILD_TYPE=Release >/dev/null
 cmake --build "$build" -j2
-rm -rf "$here/resources/hub-images" "$here/resources/shipped-images" "$here/packaging/linux/icons"
-QT_QPA_PLATFORM=offscreen "$build/orbe_draw_images" \
-  "$here/resources/hub-images" "$here/resources/shipped-images" "$here/packaging/linux/icons"
-echo "drew $(find "$here/resources/hub-images" "$here/resources/shipped-images" \
-  "$here/packaging/linux/icons" -name '*.png' | wc -l) pictures"
+out=("$here/resources/hub-images" "$here/resources/shipped-images" "$here/packaging/linux/icons"
+  "$here/resources/macro-images")
+rm -rf "${out[@]}"
+QT_QPA_PLATFORM=offscreen "$build/orbe_draw_images" "${out[@]}"
+echo "drew $(find "${out[@]}" -name '*.png' | wc -l) pictures"

@@ -125,6 +125,73 @@
     </message>
 </context>
 <context>
+    <name>FrameMacro</name>
+    <message>
+        <source>延迟</source>
+        <translation>Delay</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>Used</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>bytes</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Stop recording</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Start recording</translation>
+    </message>
+    <message>
+        <source>宏列表</source>
+        <translation>Macros</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>New macro</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>Set fixed delay (ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>松开</source>
+        <translation>Release</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Press</translation>
+    </message>
+    <message>
+        <source>录制时，在本页按下按键或点击鼠标即被记录</source>
+        <translation>While recording, keys and clicks on this page are recorded</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键或点击鼠标，或用“插入”逐个添加事件</source>
+        <translation>Click “Start recording”, then press keys or click here; or add events one by one with “Insert”</translation>
+    </message>
+</context>
+<context>
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
@@ -159,6 +226,40 @@
     <message>
         <source>行程校准</source>
         <translation>Travel calibration</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>删除宏</source>
+        <translation>Delete macro</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>左键</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Middle</translation>
+    </message>
+    <message>
+        <source>在此处插入</source>
+        <translation>Insert here</translation>
+    </message>
+    <message>
+        <source>删除此事件</source>
+        <translation>Delete this event</translation>
     </message>
 </context>
 <context>
@@ -210,6 +311,61 @@
     <message>
         <source>点击设备进入设置</source>
         <translation>Click a device to set it up</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>Choose the kind of macro event to add</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>Keyboard key</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>Mouse button</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>Mouse position</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>Press a key......</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Middle</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>X(0 ~ 127):</source>
+        <translation>X(0 ~ 127):</translation>
+    </message>
+    <message>
+        <source>Y(0 ~ 127):</source>
+        <translation>Y(0 ~ 127):</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -1005,7 +1161,7 @@
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>New macro</translation>
     </message>
 </context>
 <context>

@@ -125,6 +125,73 @@
     </message>
 </context>
 <context>
+    <name>FrameMacro</name>
+    <message>
+        <source>延迟</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宏列表</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>松开</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>录制时，在本页按下按键或点击鼠标即被记录</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键或点击鼠标，或用“插入”逐个添加事件</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
@@ -158,6 +225,40 @@
     <name>LinearFixing1</name>
     <message>
         <source>行程校准</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除宏</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>左键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>在此处插入</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>删除此事件</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -209,6 +310,61 @@
     </message>
     <message>
         <source>点击设备进入设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X(0 ~ 127):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Y(0 ~ 127):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -11,6 +11,7 @@
 #include "FrameSystemInfo.h"
 #include "HidBackend.h"
 #include "ModuleLangMenu.h"
+#include "ModuleMacroManager.h"
 #include "OrbeDeviceBase.h"
 #include "OrbeDeviceEnum.h"
 #include "Platform.h"
@@ -103,14 +104,17 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, const QS
     : QMainWindow(parent), clock(clk ? clk : QtClock::shared()),
       appDir(OrbeDeviceBase::rootDir(dir)), hid(std::move(backend)),
       registry(std::make_unique<DeviceRegistry>(hid.get(), clock, appDir)),
-      poller(std::make_unique<BatteryPoller>(hid.get(), clock))
+      poller(std::make_unique<BatteryPoller>(hid.get(), clock)),
+      // Given a folder (tests, the screenshots), the macros live in it; otherwise where the
+      // install layout keeps the user's files.
+      macroStore(std::make_unique<ModuleMacroManager>(dir.isEmpty() ? QString() : appDir))
 {
     FrameDeviceShow::setContext({.clock = clock, .poller = poller.get(), .appDir = appDir});
     registry->setTarnwickBuild(tarnwickBuild);
     registry->setWindowShown(false); // until shown: a hidden window doesn't scan
 
     // 1-3: the form, then the single-instance guard and its watch.
-    ui.setupUi(this, hid.get(), clock);
+    ui.setupUi(this, hid.get(), clock, *macroStore);
     claimSingleInstance();
 
     // 4-6: the frameless window and the card page.

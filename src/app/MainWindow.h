@@ -16,6 +16,7 @@ class DeviceRegistry;
 class DialogDeviceConnect;
 
 class HidBackend;
+class ModuleMacroManager;
 class ModuleLangMenu;
 class OrbeDeviceEnum;
 class QAction;
@@ -58,6 +59,9 @@ public:
     DialogDeviceConnect* connection() const;
     ModuleLangMenu* languageMenu() const { return langMenu; }
     DeviceRegistry* deviceRegistry() const { return registry.get(); }
+    // The user's macros: in appDir's "macro" when an appDir was given, else in the folder of the
+    // user's files (InstallLayout::userFilesDir).
+    ModuleMacroManager& macros() const { return *macroStore; }
     BatteryPoller* batteryPoller() const { return poller.get(); }
     FrameDeviceHolder* deviceHolder() const { return ui.frameHold; }
     // The engineering console, null until it was opened.
@@ -122,6 +126,7 @@ private:
     std::unique_ptr<DeviceRegistry> registry;
     std::unique_ptr<BatteryPoller> poller;
     std::unique_ptr<SingleInstance> instanceGuard;
+    std::unique_ptr<ModuleMacroManager> macroStore;
 
     MainWindowForm ui;
     ModuleLangMenu* langMenu = nullptr;

@@ -50,7 +50,8 @@ QPushButton* titleButton(QWidget* parent, const char* name, const char* icon)
 
 } // namespace
 
-void MainWindowForm::setupUi(QMainWindow* window, HidBackend* hid, Clock* clock)
+void MainWindowForm::setupUi(QMainWindow* window, HidBackend* hid, Clock* clock,
+                             ModuleMacroManager& macros)
 {
     window->setObjectName(QStringLiteral("MainWindow"));
     centralwidget = new QWidget(window);
@@ -78,7 +79,7 @@ void MainWindowForm::setupUi(QMainWindow* window, HidBackend* hid, Clock* clock)
     page02->setObjectName(QStringLiteral("page02"));
     auto* holdLayout = new QVBoxLayout(page02);
     holdLayout->setContentsMargins(0, 0, 0, 0);
-    frameHold = new FrameDeviceHolder(hid, clock, page02);
+    frameHold = new FrameDeviceHolder(hid, clock, macros, page02);
     frameHold->setObjectName(QStringLiteral("frameHold"));
     holdLayout->addWidget(frameHold);
     stackedWidget->addWidget(page02);

@@ -5,6 +5,7 @@
 class Clock;
 class FrameDeviceHolder;
 class HidBackend;
+class ModuleMacroManager;
 class QFrame;
 class QHBoxLayout;
 class QLabel;
@@ -24,8 +25,9 @@ class MainWindowForm
 public:
     static constexpr int kTitleHeight = 80;
 
-    // hid and clock go to the device page shell, which makes the connection.
-    void setupUi(QMainWindow* window, HidBackend* hid, Clock* clock);
+    // hid and clock go to the device page shell, which makes the connection; the macro store to
+    // its macro page.
+    void setupUi(QMainWindow* window, HidBackend* hid, Clock* clock, ModuleMacroManager& macros);
     void retranslateUi(QMainWindow* window);
 
     QWidget* centralwidget = nullptr;

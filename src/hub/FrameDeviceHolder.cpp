@@ -75,7 +75,8 @@ QString picture(const NavigationEntry& entry, int state)
 
 } // namespace
 
-FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, QWidget* parent)
+FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
+                                     QWidget* parent)
     : QFrame(parent), device(new DialogDeviceConnect(hid, clock, QString(), this))
 {
     setObjectName(QStringLiteral("FrameDeviceHolder"));
@@ -85,7 +86,7 @@ FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, QWidget* par
     auto* keySetting = new FrameKeySetting(this);
     frameMain = new FrameMain(device, this, clock);
     auto* magic = new FrameMagic(this);
-    auto* macro = new FrameMacro(this);
+    auto* macro = new FrameMacro(macros, this, clock);
     auto* light = new FrameLight(this);
     auto* about = new FrameAbout(this);
     keySetting->hide();

@@ -8,6 +8,7 @@ class Clock;
 class DialogDeviceConnect;
 class FrameMain;
 class HidBackend;
+class ModuleMacroManager;
 class QButtonGroup;
 class QLabel;
 class QPushButton;
@@ -25,8 +26,10 @@ public:
     static constexpr QSize kPageSize{1124, 740};
     static constexpr int kLayerCount = 4;
 
-    // hid and clock must outlive the shell; they serve the connection.
-    FrameDeviceHolder(HidBackend* hid, Clock* clock, QWidget* parent = nullptr);
+    // hid and clock must outlive the shell; they serve the connection. The macro store too: the
+    // macro page edits it.
+    FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
+                      QWidget* parent = nullptr);
     ~FrameDeviceHolder() override;
 
     DialogDeviceConnect* connection() const { return device; }

@@ -1,9 +1,11 @@
 // Draws every picture of the hub.
 //   orbe_draw_images <resource folder> <folder beside the program> <icon theme folder>
+//                    <macro page folder>
 // The first receives what is built into ":/images/", the second the start-up pictures, the
 // default device pictures and one picture per catalogue device, named after the device with
 // blanks as dashes (the form the hub looks up), the third the application icon in the hicolor
-// theme's sizes (hicolor/<n>x<n>/apps/<application id>.png), installed for the desktop.
+// theme's sizes (hicolor/<n>x<n>/apps/<application id>.png), installed for the desktop, the
+// fourth the macro page's pictures (built into ":/images/macropage/" by the page's own library).
 
 #include "AppIconArt.h"
 #include "Art.h"
@@ -12,6 +14,7 @@
 #include "IconArt.h"
 #include "KeyboardArt.h"
 #include "LightArt.h"
+#include "MacroPageArt.h"
 
 #include <QGuiApplication>
 #include <QTextStream>
@@ -116,14 +119,16 @@ int main(int argc, char* argv[])
 {
     QGuiApplication app(argc, argv);
     const QStringList args = app.arguments();
-    if (args.size() != 4) {
+    if (args.size() != 5) {
         QTextStream(stderr)
-            << "usage: orbe_draw_images <resource folder> <beside folder> <icon theme folder>\n";
+            << "usage: orbe_draw_images <resource folder> <beside folder> <icon theme folder> "
+               "<macro page folder>\n";
         return 2;
     }
     const QString res = args.at(1) + u'/';
     const QString beside = args.at(2) + u'/';
     const QString icons = args.at(3) + u'/';
+    const QString macroPage = args.at(4) + u'/';
 
     for (int size : AppIconArt::kSizes)
         Art::save(AppIconArt::appIcon(size),
@@ -163,5 +168,6 @@ int main(int argc, char* argv[])
     Art::save(BrandArt::tarnwickSplash(), beside + "trgear.png");
     for (const DevicePicture& device : kDevices)
         Art::save(devicePicture(device), beside + device.file + ".png");
+    MacroPageArt::saveAll(macroPage);
     return 0;
 }
