@@ -3,6 +3,7 @@
 #include "TestSupport.h"
 
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QtTest>
 
 #ifdef Q_OS_UNIX
@@ -365,6 +366,28 @@ private slots:
         QCOMPARE(reloaded.FindMacro(0)->name, QStringLiteral("新建宏0"));
         QCOMPARE(int(reloaded.FindMacro(0)->events.size()), 4);
 #endif
+    }
+    // A picker listens for these to refresh its names; they come whether the disk took the
+    // file or not, since the macros in memory changed either way.
+    void savesAreAnnounced()
+    {
+        QTemporaryDir dir;
+        ModuleMacroManager store(dir.path());
+        QSignalSpy list(&store, &ModuleMacroManager::listSaved);
+        QSignalSpy events(&store, &ModuleMacroManager::macroSaved);
+        store.FindMacro(6)->name = QStringLiteral("连招");
+        QVERIFY(store.SaveHeader());
+        store.RemoveMacro(store.FindMacro(1));
+        QCOMPARE(list.size(), 2);
+
+        QVERIFY(QDir().mkpath(store.eventPath(6))); // a folder where the file should go
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot write"));
+        QVERIFY(!store.SaveEvents(store.FindMacro(6)));
+        QVERIFY(store.SaveEvents(store.FindMacro(3)));
+        QCOMPARE(events.size(), 2);
+        QCOMPARE(events.at(0).at(0).value<quint8>(), quint8(6));
+        QCOMPARE(events.at(1).at(0).value<quint8>(), quint8(3));
+        QCOMPARE(list.size(), 2);
     }
     void instanceIsTheFirst()
     {
