@@ -1,7 +1,10 @@
 // Runs the hub over the virtual devices in English and saves pictures of its window: the cards
 // once every device is listed (cards.png), the home page of a native keyboard once it has been
-// read (shell.png), its custom colour tab with the colour picker open over it (picker.png).
-// orbe_hub_screenshots <folder>; not installed, for the README.
+// read (shell.png), its custom colour tab with the colour picker open over it (picker.png), and
+// its macro page with a macro recorded key by key in real time (macro.png) and the insert dialog
+// (macro-insert.png). orbe_hub_screenshots <folder>; not installed, for the README. The hub runs
+// on a copy of the files beside the program, so that the macros recorded here stay out of the
+// build's own.
 
 #include "AppStartup.h"
 #include "Clock.h"
@@ -9,19 +12,29 @@
 #include "DeviceRegistry.h"
 #include "DialogColorPicker.h"
 #include "DialogDeviceConnect.h"
+#include "FrameDeviceHolder.h"
 #include "FrameDeviceShow.h"
+#include "FrameMacro.h"
 #include "MainWindow.h"
+#include "ModuleAddMacroSquare.h"
 #include "ModuleEfColor.h"
+#include "ModuleMacroManager.h"
 #include "Platform.h"
+#include "SuperLabel.h"
 #include "VirtualHidBackend.h"
 
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 #include <QTranslator>
@@ -62,6 +75,95 @@ bool saveScreen(QWidget& window, const QString& path)
     return ok;
 }
 
+void mouse(QWidget* widget, QEvent::Type type, Qt::MouseButton button)
+{
+    const QPointF at(widget->width() / 2.0, widget->height() - 20.0);
+    QMouseEvent event(type, at, widget->mapToGlobal(at), button,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+void key(QWidget* widget, QEvent::Type type, int qtKey)
+{
+    QKeyEvent event(type, qtKey, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+// A copy of config/ and images/ beside the program.
+bool copyProgramFiles(const QString& to)
+{
+    const QDir from(QCoreApplication::applicationDirPath());
+    for (const char* folder : {"config", "images"}) {
+        QDirIterator it(from.filePath(QLatin1String(folder)), QDir::Files,
+                        QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            const QString source = it.next();
+            const QString target = QDir(to).filePath(from.relativeFilePath(source));
+            QDir().mkpath(QFileInfo(target).absolutePath());
+            if (!QFile::copy(source, target)) return false;
+        }
+    }
+    return true;
+}
+
+// The macro recorded for the picture, a skill combination: each event, then the poll ticks
+// (100 ms) to wait before the next, so that the delays are real gaps of different lengths.
+struct MacroStep
+{
+    enum Kind { KeyDown, KeyUp, MouseDown, MouseUp } kind;
+    int code; // a Qt key or a mouse button
+    int ticks;
+};
+constexpr MacroStep kMacroSteps[] = {
+    {MacroStep::KeyDown, Qt::Key_Shift, 1},     {MacroStep::KeyDown, Qt::Key_Q, 1},
+    {MacroStep::KeyUp, Qt::Key_Q, 1},           {MacroStep::KeyUp, Qt::Key_Shift, 3},
+    {MacroStep::KeyDown, Qt::Key_E, 1},         {MacroStep::KeyUp, Qt::Key_E, 2},
+    {MacroStep::MouseDown, Qt::LeftButton, 1},  {MacroStep::MouseUp, Qt::LeftButton, 4},
+    {MacroStep::KeyDown, Qt::Key_R, 1},         {MacroStep::KeyUp, Qt::Key_R, 1},
+    {MacroStep::KeyDown, Qt::Key_Space, 1},     {MacroStep::KeyUp, Qt::Key_Space, 2},
+    {MacroStep::MouseDown, Qt::RightButton, 1}, {MacroStep::MouseUp, Qt::RightButton, 1},
+    {MacroStep::KeyDown, Qt::Key_F, 1},         {MacroStep::KeyUp, Qt::Key_F, 1},
+};
+
+void playStep(FrameMacro* page, const MacroStep& step)
+{
+    switch (step.kind) {
+    case MacroStep::KeyDown:
+        return key(page, QEvent::KeyPress, step.code);
+    case MacroStep::KeyUp:
+        return key(page, QEvent::KeyRelease, step.code);
+    case MacroStep::MouseDown:
+        return mouse(page, QEvent::MouseButtonPress, Qt::MouseButton(step.code));
+    case MacroStep::MouseUp:
+        return mouse(page, QEvent::MouseButtonRelease, Qt::MouseButton(step.code));
+    }
+}
+
+// A user's list of macros, named in English: the first start names them in the language of the
+// moment, which is Chinese before the saved language loads.
+constexpr const char* kMacroNames[] = {"Skill combo", "Quick build", "Reload cancel", "Sprint jump",
+                                       "Chat: GG",    "Burst fire",  "Inventory",     "Emotes"};
+
+void nameMacros(const QString& programDir)
+{
+    ModuleMacroManager store(programDir);
+    for (int i = 0; i < int(std::size(kMacroNames)); ++i)
+        if (Macro* macro = store.macros().value(i)) macro->name = QLatin1String(kMacroNames[i]);
+    store.SaveHeader();
+}
+
+// The insert dialog as a user fills it for a key.
+bool saveInsertDialog(FrameMacro* page, const QString& path)
+{
+    page->findChild<QPushButton*>(QStringLiteral("pushButtonInsert"))->click();
+    auto* dialog = page->findChild<ModuleAddMacroSquare*>();
+    if (!dialog) return false;
+    key(dialog->findChild<QWidget*>(QStringLiteral("lineEditKey")), QEvent::KeyPress, Qt::Key_G);
+    const bool ok = save(*dialog, path);
+    dialog->reject();
+    return ok;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -73,17 +175,28 @@ int main(int argc, char* argv[])
     const QString out = app.arguments().value(1, QStringLiteral("."));
     QDir().mkpath(out);
 
+    QTemporaryDir programDir;
+    if (!copyProgramFiles(programDir.path())) {
+        QTextStream(stderr) << "could not copy the program's files\n";
+        return 1;
+    }
+    nameMacros(programDir.path());
+
     QTranslator appTranslator, qtBaseTranslator, qtTranslator;
     Platform::instance().setUserValue(QStringLiteral("lastlang"), kEnglish);
-    MainWindow window(AppStartup::createHidBackend(true));
+    MainWindow window(AppStartup::createHidBackend(true), nullptr, programDir.path());
     window.appTranslator = &appTranslator;
     window.qtBaseTranslator = &qtBaseTranslator;
     window.qtTranslator = &qtTranslator;
     window.show();
     QCursor::setPos(0, 0); // no card under the pointer: none shows its hover style
 
-    enum class Step { Cards, Settle, Shell, Picker, Done } step = Step::Cards;
+    enum class Step { Cards, Settle, Shell, Picker, Record, Macro, Done } step = Step::Cards;
     int waited = 0;
+    int macroStep = 0;
+    int ticksLeft = 0;
+    FrameMacro* macroPage = nullptr;
+    DialogColorPicker* picker = nullptr;
     int result = 1;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, [&] {
@@ -113,7 +226,7 @@ int main(int argc, char* argv[])
             // The custom colours of the home page, with the picker opened beside them.
             auto* colours = window.findChild<ModuleEfColor*>(QStringLiteral("frameLEDColor"));
             colours->findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(1);
-            DialogColorPicker* picker = colours->picker();
+            picker = colours->picker();
             picker->setColor(QColor(0x6F, 0x3C, 0xE0));
             const QPoint at = colours->mapToGlobal(QPoint(colours->width() - 40, 40));
             picker->showAt(at.x(), at.y());
@@ -123,7 +236,32 @@ int main(int argc, char* argv[])
         }
         case Step::Picker:
             if (waited < 600) return; // the picker's window is mapped and painted
-            result = saveScreen(window, out + QStringLiteral("/picker.png")) ? 0 : 1;
+            if (!saveScreen(window, out + QStringLiteral("/picker.png"))) app.exit(1);
+            picker->hide();
+            {
+                FrameDeviceHolder* holder = window.deviceHolder();
+                holder->showPage(holder->findChild<SuperLabel*>(QStringLiteral("label4")), 3);
+                macroPage = holder->findChild<FrameMacro*>();
+                macroPage->findChild<QPushButton*>(QStringLiteral("pushButtonRecord"))->click();
+            }
+            step = Step::Record;
+            return;
+        case Step::Record:
+            if (ticksLeft > 0 && --ticksLeft > 0) return;
+            if (macroStep < int(std::size(kMacroSteps))) {
+                ticksLeft = kMacroSteps[macroStep].ticks;
+                playStep(macroPage, kMacroSteps[macroStep++]);
+                return;
+            }
+            macroPage->findChild<QPushButton*>(QStringLiteral("pushButtonRecord"))->click();
+            step = Step::Macro;
+            waited = 0;
+            return;
+        case Step::Macro:
+            if (waited < kPollMs * 3) return; // the grid settles 10 ms after its last change
+            result = save(window, out + QStringLiteral("/macro.png")) ? 0 : 1;
+            result |=
+                saveInsertDialog(macroPage, out + QStringLiteral("/macro-insert.png")) ? 0 : 1;
             step = Step::Done;
             app.exit(result);
             return;
