@@ -24,6 +24,135 @@
     </message>
 </context>
 <context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>左键</source>
+        <translation>Left button</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Right button</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Middle button</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>Wheel left</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>Wheel right</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>Wheel up</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>Wheel down</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>Page up</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>Page down</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>Basic keys</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>Extended keys</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>Key combination</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Macros</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>System functions</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>Mouse functions</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>Assign:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>宏%1</source>
+        <translation>Macro %1</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>Play mode:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Repeat</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>While held</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>Macro not recorded</translation>
+    </message>
+</context>
+<context>
+    <name>DialogKeyPickerBase</name>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>Basic keys</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>Extended keys</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>Combination:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>Confirm</translation>
+    </message>
+</context>
+<context>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
@@ -636,455 +765,482 @@
     <name>ModuleGenKeymapping</name>
     <message>
         <source>上一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Previous track</translation>
     </message>
     <message>
         <source>下一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Next track</translation>
     </message>
     <message>
         <source>播放/暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Play/Pause</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>Mute</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume +</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume -</translation>
     </message>
     <message>
         <source>播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Media player</translation>
     </message>
     <message>
         <source>计算器</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculator</translation>
     </message>
     <message>
         <source>邮件</source>
-        <translation type="unfinished"></translation>
+        <translation>Mail</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation type="unfinished"></translation>
+        <translation>My computer</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Search</translation>
     </message>
     <message>
         <source>主页</source>
-        <translation type="unfinished"></translation>
+        <translation>Home page</translation>
     </message>
     <message>
         <source>后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Back</translation>
     </message>
     <message>
         <source>前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Forward</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Refresh</translation>
     </message>
     <message>
         <source>收藏</source>
-        <translation type="unfinished"></translation>
+        <translation>Favourites</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Brightness +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Brightness -</translation>
     </message>
     <message>
         <source>放大</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom in</translation>
     </message>
     <message>
         <source>缩小</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom out</translation>
     </message>
     <message>
         <source>呼出Siri</source>
-        <translation type="unfinished"></translation>
+        <translation>Voice assistant</translation>
     </message>
     <message>
         <source>切换输入法</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch input method</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished">Back</translation>
+        <translation>Return</translation>
     </message>
     <message>
         <source>Fn键锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Fn lock</translation>
     </message>
     <message>
         <source>锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Lock screen</translation>
     </message>
     <message>
         <source>R-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Right Fn key</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Loop</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Shift</translation>
     </message>
     <message>
         <source>电源</source>
-        <translation type="unfinished"></translation>
+        <translation>Power</translation>
     </message>
     <message>
         <source>睡眠</source>
-        <translation type="unfinished"></translation>
+        <translation>Sleep</translation>
     </message>
     <message>
         <source>唤醒</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Value</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Loop</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Left Fn key</translation>
     </message>
     <message>
         <source>恢复出厂设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Factory reset</translation>
     </message>
     <message>
         <source>锁Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Lock Win key</translation>
     </message>
     <message>
         <source>切换Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows mode</translation>
     </message>
     <message>
         <source>切换Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Mac mode</translation>
     </message>
     <message>
         <source>系统切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch system</translation>
     </message>
     <message>
         <source>Check Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Check Battery</translation>
     </message>
     <message>
         <source>WASD切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap WASD and arrows</translation>
     </message>
     <message>
         <source>Fn层切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch Fn layer</translation>
     </message>
     <message>
         <source>设备节能</source>
-        <translation type="unfinished"></translation>
+        <translation>Power saving</translation>
     </message>
     <message>
         <source>APP CTRL切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch APP/CTRL</translation>
     </message>
     <message>
         <source>背光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight on/off</translation>
     </message>
     <message>
         <source>背光灯效循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight effect cycle</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight effect +</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight effect -</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight brightness cycle</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight brightness +</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight brightness -</translation>
     </message>
     <message>
         <source>背光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight speed cycle</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight speed -</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight speed +</translation>
     </message>
     <message>
         <source>背光方向循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight direction cycle</translation>
     </message>
     <message>
         <source>背光向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight to the left</translation>
     </message>
     <message>
         <source>背光向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight to the right</translation>
     </message>
     <message>
         <source>背光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight colour cycle</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight colour +</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Backlight colour -</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 0</translation>
     </message>
     <message>
         <source>Use Pic 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 1</translation>
     </message>
     <message>
         <source>Use Pic 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 2</translation>
     </message>
     <message>
         <source>Use Pic 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 3</translation>
     </message>
     <message>
         <source>Use Pic 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 4</translation>
     </message>
     <message>
         <source>Use Pic</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic</translation>
     </message>
     <message>
         <source>侧光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Side light on/off</translation>
     </message>
     <message>
         <source>侧光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Side light brightness cycle</translation>
     </message>
     <message>
         <source>侧光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Side light speed cycle</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Side light speed +</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Side light speed -</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Side light colour cycle</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Side light colour +</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Side light colour -</translation>
     </message>
     <message>
         <source>2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G</translation>
     </message>
     <message>
         <source>蓝牙1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 1</translation>
     </message>
     <message>
         <source>蓝牙2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 2</translation>
     </message>
     <message>
         <source>蓝牙3</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 3</translation>
     </message>
     <message>
         <source>有线</source>
-        <translation type="unfinished"></translation>
+        <translation>Wired</translation>
     </message>
     <message>
         <source>有线-蓝牙-2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>Wired-Bluetooth-2.4G</translation>
     </message>
     <message>
         <source>2.4G配对</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G pairing</translation>
     </message>
     <message>
         <source>蓝牙配对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth pairing</translation>
     </message>
     <message>
         <source>Insert键</source>
-        <translation type="unfinished"></translation>
+        <translation>Insert key</translation>
     </message>
     <message>
         <source>Print Screen键</source>
-        <translation type="unfinished"></translation>
+        <translation>Print Screen key</translation>
     </message>
     <message>
         <source>左键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Left click</translation>
     </message>
     <message>
         <source>右键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Right click</translation>
     </message>
     <message>
         <source>中键按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Middle click</translation>
     </message>
     <message>
         <source>光标前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Forward button</translation>
     </message>
     <message>
         <source>光标后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Back button</translation>
     </message>
     <message>
         <source>滚轮-向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Wheel left</translation>
     </message>
     <message>
         <source>滚轮-向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Wheel right</translation>
     </message>
     <message>
         <source>滚轮-向上</source>
-        <translation type="unfinished"></translation>
+        <translation>Wheel up</translation>
     </message>
     <message>
         <source>滚轮-向下</source>
-        <translation type="unfinished"></translation>
+        <translation>Wheel down</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page up</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page down</translation>
     </message>
     <message>
         <source>XUP</source>
-        <translation type="unfinished"></translation>
+        <translation>XUP</translation>
     </message>
     <message>
         <source>XDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>XDOWN</translation>
     </message>
     <message>
         <source>YUP</source>
-        <translation type="unfinished"></translation>
+        <translation>YUP</translation>
     </message>
     <message>
         <source>YDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>YDOWN</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished">Macros</translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Function</translation>
     </message>
     <message>
         <source>鼠标</source>
-        <translation type="unfinished"></translation>
+        <translation>Mouse</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Combination</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>已选中按键</source>
+        <translation>Selected key</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Modified key</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Disabled key</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Clear setting</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Disable key</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Enable key</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,135 @@
     </message>
 </context>
 <context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>左键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宏%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DialogKeyPickerBase</name>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
@@ -1084,6 +1213,33 @@
     </message>
     <message>
         <source>组合</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>已选中按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

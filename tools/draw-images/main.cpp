@@ -12,6 +12,7 @@
 #include "BrandArt.h"
 #include "DeviceArt.h"
 #include "IconArt.h"
+#include "KeyPageArt.h"
 #include "KeyboardArt.h"
 #include "LightArt.h"
 #include "MacroPageArt.h"
@@ -163,6 +164,8 @@ int main(int argc, char* argv[])
     Art::save(LightArt::pipette(), res + "pickup2.png");
     Art::save(LightArt::colourHighlight(), res + "Color-picked.png");
     Art::save(LightArt::lightBand(), res + "light/light.png");
+
+    KeyPageArt::saveAll(res);
 
     Art::save(BrandArt::orbeSplash(), beside + "MainPicture.png");
     Art::save(BrandArt::tarnwickSplash(), beside + "trgear.png");
