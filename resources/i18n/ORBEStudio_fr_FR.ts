@@ -254,6 +254,101 @@
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SnapKey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选择按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>点击上方键盘中要修改的按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选择功能</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>组合键、宏、系统功能或鼠标功能</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清除或禁用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右键点击按键可清除设置或禁用按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>系统按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FrameMacro</name>
     <message>
         <source>延迟</source>

@@ -11,6 +11,7 @@
 #include "HubLog.h"
 #include "LinearFixing1.h"
 #include "ModuleGenKeymapping.h"
+#include "ModuleMacroManager.h"
 #include "SuperLabel.h"
 
 #include <QButtonGroup>
@@ -77,13 +78,14 @@ QString picture(const NavigationEntry& entry, int state)
 
 FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
                                      QWidget* parent)
-    : QFrame(parent), device(new DialogDeviceConnect(hid, clock, QString(), this))
+    : QFrame(parent), device(new DialogDeviceConnect(hid, clock, QString(), this)),
+      keys(std::make_unique<ModuleGenKeymapping>())
 {
     setObjectName(QStringLiteral("FrameDeviceHolder"));
-    ModuleGenKeymapping::instance(); // the key tables, built once for every page
     buildForm();
 
-    auto* keySetting = new FrameKeySetting(this);
+    auto* keySetting = new FrameKeySetting(device, *keys, macros, clock, this);
+    frameKeySetting = keySetting;
     frameMain = new FrameMain(device, this, clock);
     auto* magic = new FrameMagic(this);
     auto* macro = new FrameMacro(macros, this, clock);
@@ -107,8 +109,10 @@ FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroM
     connect(buttonGroupLayer, &QButtonGroup::idClicked, this, &FrameDeviceHolder::onLayerClicked);
     connect(pushButtonReset, &QPushButton::clicked, device, &DialogDeviceConnect::DoFactoryReset);
     connect(pushButtonFixline, &QPushButton::clicked, this, &FrameDeviceHolder::openCalibration);
-    connect(device, &DialogDeviceConnect::onReadDone, this,
-            [] { qCDebug(lcHub) << "DialogDeviceConnect::onReadDone"; });
+    connect(device, &DialogDeviceConnect::onReadDone, this, [keySetting] {
+        keySetting->RefreshPage();
+        qCDebug(lcHub) << "DialogDeviceConnect::onReadDone";
+    });
 }
 
 FrameDeviceHolder::~FrameDeviceHolder() = default;

@@ -3,10 +3,13 @@
 #include <QFrame>
 #include <QList>
 #include <QString>
+#include <memory>
 
 class Clock;
 class DialogDeviceConnect;
+class FrameKeySetting;
 class FrameMain;
+class ModuleGenKeymapping;
 class HidBackend;
 class ModuleMacroManager;
 class QButtonGroup;
@@ -37,6 +40,8 @@ public:
     // The page shown, 0 to 5.
     int currentPage() const { return pageIndex; }
     QWidget* page(int index) const { return pages.value(index); }
+    FrameKeySetting* keySetting() const { return frameKeySetting; }
+    const ModuleGenKeymapping* keyTables() const { return keys.get(); }
 
     void setDevice(DeviceEnumInfo* device, const QString& deviceImage, const QString& name);
     // Ignored while the connection reads the keyboard; 6 and 7 leave the shell.
@@ -62,10 +67,13 @@ private:
     void openCalibration();
 
     DialogDeviceConnect* device;
+    // The key tables, which the pages are handed.
+    std::unique_ptr<ModuleGenKeymapping> keys;
     DeviceEnumInfo* current = nullptr;
     QList<SuperLabel*> labels;
     QList<QWidget*> pages;
     FrameMain* frameMain = nullptr;
+    FrameKeySetting* frameKeySetting = nullptr;
     int pageIndex = 0;
 
     QLabel* labelName = nullptr;
