@@ -593,6 +593,33 @@
     </message>
 </context>
 <context>
+    <name>ModuleDeviceOptions</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>Report rate</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G backlight off</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Bluetooth backlight off</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>2.4G deep sleep after</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Bluetooth deep sleep after</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>Debounce level</translation>
+    </message>
+</context>
+<context>
     <name>ModuleEfColor</name>
     <message>
         <source>炫彩</source>

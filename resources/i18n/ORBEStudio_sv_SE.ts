@@ -593,6 +593,33 @@
     </message>
 </context>
 <context>
+    <name>ModuleDeviceOptions</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ModuleEfColor</name>
     <message>
         <source>炫彩</source>

@@ -2,6 +2,7 @@
 
 #include "Clock.h"
 #include "DialogDeviceConnect.h"
+#include "ModuleDeviceOptions.h"
 #include "ModuleKeyboard.h"
 #include "NewTabWidget.h"
 
@@ -140,6 +141,9 @@ void FrameKeySetting::buildForm()
     page3->setObjectName(QStringLiteral("page3"));
     auto* page3Layout = new QVBoxLayout(page3);
     page3Layout->setContentsMargins(0, 0, 0, 0);
+    options = new ModuleDeviceOptions(
+        device, [this] { return refreshing; }, page3);
+    page3Layout->addWidget(options);
     stackedWidget->addWidget(page3);
     bottomLayout->addWidget(stackedWidget, 1);
     layout->addWidget(frameB, 1);

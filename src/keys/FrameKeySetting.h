@@ -6,6 +6,7 @@
 class Clock;
 class ClockTimer;
 class DialogDeviceConnect;
+class ModuleDeviceOptions;
 class ModuleGenKeymapping;
 class ModuleKeyboard;
 class ModuleMacroManager;
@@ -67,6 +68,7 @@ private:
     QButtonGroup* buttonGroupMode = nullptr;
     QStackedWidget* stackedWidget = nullptr;
     QTabWidget* tabWidgetAdv = nullptr;
+    ModuleDeviceOptions* options = nullptr;
     QLabel* labelFunc = nullptr;
     QLabel* labelNote = nullptr;
     const char* funcTitle = nullptr; // source text of labelFunc

@@ -7,6 +7,7 @@
 #include "KeyNameTable.h"
 #include "KeyPositions.h"
 #include "Macro.h"
+#include "ModuleDeviceOptions.h"
 #include "ModuleGenKeymapping.h"
 #include "ModuleKeyboard.h"
 #include "ModuleMacroManager.h"
@@ -82,6 +83,7 @@ void FrameKeySetting::RefreshCustomLayer()
         if (entry.isEmpty()) title = kDisabled;
         frameKeyboard->setKeyTooltip(code, title.trimmed(), body.trimmed(), true);
     }
+    options->fill();
 }
 
 void FrameKeySetting::RefreshFnLayer()
@@ -104,6 +106,7 @@ void FrameKeySetting::RefreshFnLayer()
         if (entry == switchedOff) title = kDisabled;
         frameKeyboard->setKeyTooltip(code, title.trimmed(), body.trimmed(), true);
     }
+    options->fill();
 }
 
 void FrameKeySetting::onPickKey(const QString&, uchar code)
