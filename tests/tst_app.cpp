@@ -1,12 +1,46 @@
 #include "AppStartup.h"
+#include "DialogDeviceConnect.h"
+#include "ManualClock.h"
+#include "VirtualHidBackend.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
+
+namespace {
+
+// A command line as main() gets it, and what is left of it.
+struct Argv
+{
+    explicit Argv(const QStringList& args) : argc(int(args.size()))
+    {
+        for (const QString& a : args)
+            storage.append(a.toLocal8Bit());
+        for (QByteArray& a : storage)
+            pointers.push_back(a.data());
+        pointers.push_back(nullptr);
+    }
+    char** data() { return pointers.data(); }
+    QStringList left() const
+    {
+        QStringList out;
+        for (int i = 0; i < argc; ++i)
+            out.append(QString::fromLocal8Bit(pointers[i]));
+        if (pointers[argc] != nullptr) out.append(QStringLiteral("<not ended>"));
+        return out;
+    }
+
+    int argc;
+    QList<QByteArray> storage;
+    std::vector<char*> pointers;
+};
+
+} // namespace
 
 class TestApp : public QObject
 {
@@ -126,20 +160,82 @@ private slots:
         QFETCH(QStringList, args);
         QFETCH(bool, found);
         QFETCH(QStringList, rest);
-        QList<QByteArray> storage;
-        for (const QString& a : args)
-            storage.append(a.toLocal8Bit());
-        std::vector<char*> argv;
-        for (QByteArray& a : storage)
-            argv.push_back(a.data());
-        argv.push_back(nullptr);
-        int argc = int(args.size());
-        QCOMPARE(AppStartup::takeSimulateFlag(argc, argv.data()), found);
-        QStringList after;
-        for (int i = 0; i < argc; ++i)
-            after.append(QString::fromLocal8Bit(argv[i]));
-        QCOMPARE(after, rest);
-        QCOMPARE(argv[argc], nullptr);
+        Argv argv(args);
+        QCOMPARE(AppStartup::takeSimulateFlag(argv.argc, argv.data()), found);
+        QCOMPARE(argv.left(), rest);
+    }
+
+    void traceOptionIsTakenOut_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QStringList>("rest");
+        QTest::newRow("file after it")
+            << QStringList{"orbehub", "--simulate", "--trace", "t.txt", "-style", "fusion"}
+            << "t.txt" << QStringList{"orbehub", "--simulate", "-style", "fusion"};
+        QTest::newRow("joined") << QStringList{"orbehub", "--trace=/tmp/a b.txt"} << "/tmp/a b.txt"
+                                << QStringList{"orbehub"};
+        QTest::newRow("no file: dropped, not traced")
+            << QStringList{"orbehub", "--trace"} << QString() << QStringList{"orbehub"};
+        QTest::newRow("none") << QStringList{"orbehub", "-style", "fusion"} << QString()
+                              << QStringList{"orbehub", "-style", "fusion"};
+    }
+    void traceOptionIsTakenOut()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(QString, file);
+        QFETCH(QStringList, rest);
+        Argv argv(args);
+        QCOMPARE(AppStartup::takeTraceOption(argv.argc, argv.data()), file);
+        QCOMPARE(argv.left(), rest);
+    }
+
+    // The hub's trace: what the connection sends and gets, one line per transfer in the
+    // command-line tool's format; the virtual devices stay reachable behind it for hot-plug.
+    void traceWritesEveryTransfer()
+    {
+        QTemporaryDir dir;
+        ManualClock clock;
+        auto devices = std::make_unique<VirtualHidBackend>(&clock);
+        VirtualHidBackend* virtualSet = devices.get();
+        virtualSet->addWiredKeyboard();
+        const QString path = dir.filePath("trace.txt");
+        std::unique_ptr<HidBackend> hid = AppStartup::traceTo(std::move(devices), path);
+        QCOMPARE(AppStartup::virtualSetOf(hid.get()), virtualSet);
+        {
+            DialogDeviceConnect link(hid.get(), &clock, dir.filePath("device.ini"));
+            link.connectStep();
+            QVERIFY(clock.advanceUntil([&] { return link.isIdle(); }, 10000, 5));
+        }
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
+        const QStringList lines =
+            QString::fromLatin1(file.readAll()).split('\n', Qt::SkipEmptyParts);
+        // The first chain: identity, options, profile, each asked and answered.
+        QVERIFY2(lines.size() >= 6, qPrintable(lines.join('\n')));
+        static const QRegularExpression form("^\\d+ [<>] (feature|write|read)( [0-9A-F]{2})*$");
+        for (const QString& line : lines)
+            QVERIFY2(form.match(line).hasMatch(), qPrintable(line));
+        const auto firstWith = [&](const char* text) {
+            for (int i = 0; i < lines.size(); ++i)
+                if (lines[i].contains(QLatin1String(text))) return i;
+            return -1;
+        };
+        const int asked = firstWith("> feature 00 8F");
+        QVERIFY(asked >= 0);
+        QVERIFY(firstWith("< feature 00 8F") > asked);
+    }
+
+    void traceToAFileThatCantBeWrittenRunsUntraced()
+    {
+        ManualClock clock;
+        auto devices = std::make_unique<VirtualHidBackend>(&clock);
+        HidBackend* before = devices.get();
+        QString error;
+        std::unique_ptr<HidBackend> hid =
+            AppStartup::traceTo(std::move(devices), "/nonexistent-folder/trace.txt", &error);
+        QCOMPARE(hid.get(), before);
+        QVERIFY(error.contains("/nonexistent-folder/trace.txt"));
     }
 };
 

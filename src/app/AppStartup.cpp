@@ -3,6 +3,7 @@
 #include "AppLog.h"
 #include "Clock.h"
 #include "HidapiBackend.h"
+#include "TracedHidBackend.h"
 #include "VirtualHidBackend.h"
 
 #include <QCoreApplication>
@@ -18,6 +19,21 @@ namespace {
 const QString kTranslationPrefix = QStringLiteral("ORBEStudio_");
 const QString kTranslationDir = QStringLiteral(":/i18n/");
 const QString kSimulateFlag = QStringLiteral("--simulate");
+const QString kTraceOption = QStringLiteral("--trace");
+
+// Keeps argv[0] and every argument that take() doesn't claim, in order; take() sees the index
+// and may claim the next arguments as well by advancing it.
+template <class Take> void filterArguments(int& argc, char** argv, Take take)
+{
+    int kept = 0;
+    for (int i = 0; i < argc; ++i) {
+        if (i > 0 && take(i)) continue;
+        argv[kept++] = argv[i];
+    }
+    for (int i = kept; i < argc; ++i)
+        argv[i] = nullptr;
+    argc = kept;
+}
 } // namespace
 
 QString translationBaseName(const QString& uiLanguage)
@@ -91,18 +107,54 @@ std::unique_ptr<HidBackend> createHidBackend(bool simulate)
 bool takeSimulateFlag(int& argc, char** argv)
 {
     bool found = false;
-    int kept = 0;
-    for (int i = 0; i < argc; ++i) {
-        if (i > 0 && kSimulateFlag == QLatin1String(argv[i])) {
-            found = true;
-            continue;
-        }
-        argv[kept++] = argv[i];
-    }
-    for (int i = kept; i < argc; ++i)
-        argv[i] = nullptr;
-    argc = kept;
+    filterArguments(argc, argv, [&](int& i) {
+        if (kSimulateFlag != QLatin1String(argv[i])) return false;
+        found = true;
+        return true;
+    });
     return found;
+}
+
+QString takeTraceOption(int& argc, char** argv)
+{
+    QString file;
+    const int count = argc;
+    filterArguments(argc, argv, [&](int& i) {
+        const QString arg = QString::fromLocal8Bit(argv[i]);
+        if (arg.startsWith(kTraceOption + u'=')) {
+            file = arg.mid(kTraceOption.size() + 1);
+            return true;
+        }
+        if (arg != kTraceOption) return false;
+        if (i + 1 < count) {
+            file = QString::fromLocal8Bit(argv[++i]);
+        } else {
+            qCWarning(lcApp) << "--trace needs a file; the run is not traced";
+        }
+        return true;
+    });
+    return file;
+}
+
+std::unique_ptr<HidBackend> traceTo(std::unique_ptr<HidBackend> hid, const QString& file,
+                                    QString* error)
+{
+    auto out = std::make_unique<QFile>(file);
+    if (file.isEmpty() ||
+        !out->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+        const QString why =
+            QStringLiteral("cannot write the trace file %1: %2").arg(file, out->errorString());
+        qCWarning(lcApp).noquote() << why;
+        if (error) *error = why;
+        return hid;
+    }
+    return std::make_unique<TracedHidBackend>(std::move(hid), std::move(out));
+}
+
+VirtualHidBackend* virtualSetOf(HidBackend* hid)
+{
+    if (auto* traced = dynamic_cast<TracedHidBackend*>(hid)) hid = traced->innerBackend();
+    return dynamic_cast<VirtualHidBackend*>(hid);
 }
 
 } // namespace AppStartup

@@ -7,6 +7,7 @@
 
 class HidBackend;
 class QTranslator;
+class VirtualHidBackend;
 
 // The steps of the program's start-up that depend on nothing but their inputs, so that they
 // can be checked without starting the whole program.
@@ -48,5 +49,16 @@ std::unique_ptr<HidBackend> createHidBackend(bool simulate);
 
 // Removes "--simulate" from argv (shifting the rest down) and tells whether it was there.
 bool takeSimulateFlag(int& argc, char** argv);
+
+// Removes "--trace FILE" or "--trace=FILE" from argv and gives the file, empty when there is
+// none. A --trace without its file is dropped with a warning.
+QString takeTraceOption(int& argc, char** argv);
+// The backend with every transfer written to file, as orbehub-cli --trace writes it. When the
+// file can't be written the backend comes back as it was, and the reason is logged and
+// returned in error.
+std::unique_ptr<HidBackend> traceTo(std::unique_ptr<HidBackend> hid, const QString& file,
+                                    QString* error = nullptr);
+// The virtual devices behind hid, through a trace too; null for real hardware.
+VirtualHidBackend* virtualSetOf(HidBackend* hid);
 
 } // namespace AppStartup

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "AppLog.h"
+#include "AppStartup.h"
 #include "BatteryPoller.h"
 #include "Clock.h"
 #include "DeviceEnumInfo.h"
@@ -162,7 +163,7 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, const QS
     connect(notifier, &USBNotifier::devicePluggined, debounce, &ScanDebounce::onDevicePluggined);
     connect(notifier, &USBNotifier::devicePluggined, connection(),
             &DialogDeviceConnect::onDevicePluggined);
-    if (auto* virtualSet = dynamic_cast<VirtualHidBackend*>(hid.get())) {
+    if (auto* virtualSet = AppStartup::virtualSetOf(hid.get())) {
         QPointer<USBNotifier> target(notifier);
         virtualSet->setPlugListener([target](bool) {
             if (target) target->reportDeviceChange();
@@ -209,8 +210,7 @@ MainWindow::~MainWindow()
     // The thread before the registry; the pages and the connection before the backend.
     tearingDown = true;
     enumThread.reset();
-    if (auto* virtualSet = dynamic_cast<VirtualHidBackend*>(hid.get()))
-        virtualSet->setPlugListener({});
+    if (auto* virtualSet = AppStartup::virtualSetOf(hid.get())) virtualSet->setPlugListener({});
     delete takeCentralWidget();
     poller.reset();
     FrameDeviceShow::setContext({});

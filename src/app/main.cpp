@@ -15,6 +15,8 @@ int main(int argc, char* argv[])
 {
     // The virtual keyboards stand in for hidapi; the flag is ours, not the framework's.
     const bool simulate = AppStartup::takeSimulateFlag(argc, argv);
+    // What the hub sends and gets, as orbehub-cli --trace writes it.
+    const QString traceFile = AppStartup::takeTraceOption(argc, argv);
 
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
@@ -51,7 +53,9 @@ int main(int argc, char* argv[])
     app.setStyleSheet(AppStartup::applicationStyleSheet());
     qCDebug(lcApp) << "style sheet set";
 
-    MainWindow window(AppStartup::createHidBackend(simulate));
+    std::unique_ptr<HidBackend> hid = AppStartup::createHidBackend(simulate);
+    if (!traceFile.isEmpty()) hid = AppStartup::traceTo(std::move(hid), traceFile);
+    MainWindow window(std::move(hid));
     window.appTranslator = &appTranslator;
     window.qtBaseTranslator = &qtBaseTranslator;
     window.qtTranslator = &qtTranslator;
