@@ -1,10 +1,11 @@
 // Runs the hub over the virtual devices in English and saves pictures of its window: the cards
 // once every device is listed (cards.png), the home page of a native keyboard once it has been
-// read (shell.png), its custom colour tab with the colour picker open over it (picker.png), and
-// its macro page with a macro recorded key by key in real time (macro.png) and the insert dialog
-// (macro-insert.png). orbe_hub_screenshots <folder>; not installed, for the README. The hub runs
-// on a copy of the files beside the program, so that the macros recorded here stay out of the
-// build's own.
+// read (shell.png), its custom colour tab with the colour picker open over it (picker.png), its
+// macro page with a macro recorded key by key in real time (macro.png) and the insert dialog
+// (macro-insert.png), and its key page with bindings and a bubble (keys.png), the function picker
+// open over it (keypicker.png) and the options panel (options.png). orbe_hub_screenshots
+// <folder>; not installed, for the README. The hub runs on a copy of the files beside the
+// program, so that the macros recorded here stay out of the build's own.
 
 #include "AppStartup.h"
 #include "Clock.h"
@@ -15,6 +16,7 @@
 #include "FrameDeviceHolder.h"
 #include "FrameDeviceShow.h"
 #include "FrameMacro.h"
+#include "KeyPageShots.h"
 #include "MainWindow.h"
 #include "ModuleAddMacroSquare.h"
 #include "ModuleEfColor.h"
@@ -27,6 +29,7 @@
 #include <QCursor>
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -168,7 +171,11 @@ bool saveInsertDialog(FrameMacro* page, const QString& path)
 
 int main(int argc, char* argv[])
 {
-    // Keeps the user's saved language and the running hub's segment out of this.
+    // Keeps the user's saved language and the running hub's segment out of this. Test mode's
+    // values live under the home folder, where every test of the machine writes them (a test's
+    // return flag would send this window back to the cards): this run gets a home of its own.
+    QTemporaryDir home;
+    if (home.isValid()) qputenv("HOME", QFile::encodeName(home.path()));
     QStandardPaths::setTestModeEnabled(true);
     QApplication app(argc, argv);
     app.setStyleSheet(AppStartup::applicationStyleSheet());
@@ -191,7 +198,19 @@ int main(int argc, char* argv[])
     window.show();
     QCursor::setPos(0, 0); // no card under the pointer: none shows its hover style
 
-    enum class Step { Cards, Settle, Shell, Picker, Record, Macro, Done } step = Step::Cards;
+    enum class Step {
+        Cards,
+        Settle,
+        Shell,
+        Picker,
+        Record,
+        Macro,
+        Bindings,
+        KeyPage,
+        KeyPicker,
+        Options,
+        Done
+    } step = Step::Cards;
     int waited = 0;
     int macroStep = 0;
     int ticksLeft = 0;
@@ -259,9 +278,32 @@ int main(int argc, char* argv[])
             return;
         case Step::Macro:
             if (waited < kPollMs * 3) return; // the grid settles 10 ms after its last change
-            result = save(window, out + QStringLiteral("/macro.png")) ? 0 : 1;
-            result |=
-                saveInsertDialog(macroPage, out + QStringLiteral("/macro-insert.png")) ? 0 : 1;
+            if (!save(window, out + QStringLiteral("/macro.png")) ||
+                !saveInsertDialog(macroPage, out + QStringLiteral("/macro-insert.png")))
+                app.exit(1);
+            KeyPageShots::writeBindings(window);
+            step = Step::Bindings;
+            return;
+        case Step::Bindings:
+            if (!window.connection()->isIdle()) return;
+            KeyPageShots::showKeyPage(window);
+            step = Step::KeyPage;
+            return;
+        case Step::KeyPage:
+            if (!KeyPageShots::saveComposed(window, out + QStringLiteral("/keys.png"))) app.exit(1);
+            KeyPageShots::openPicker(window);
+            step = Step::KeyPicker;
+            return;
+        case Step::KeyPicker:
+            if (!KeyPageShots::saveComposed(window, out + QStringLiteral("/keypicker.png")))
+                app.exit(1);
+            KeyPageShots::closePicker(window);
+            KeyPageShots::showOptions(window);
+            step = Step::Options;
+            return;
+        case Step::Options:
+            result =
+                KeyPageShots::saveComposed(window, out + QStringLiteral("/options.png")) ? 0 : 1;
             step = Step::Done;
             app.exit(result);
             return;
