@@ -32,7 +32,7 @@ struct ShellRig
     VirtualKeyboard* keyboard = hid.addWiredKeyboard();
     QTemporaryDir dir;
     ModuleMacroManager macros{dir.path()};
-    FrameDeviceHolder holder{&hid, &clock, macros};
+    FrameDeviceHolder holder{&hid, &clock, macros, dir.filePath("work")};
 
     ShellRig()
     {

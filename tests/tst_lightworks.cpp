@@ -1,8 +1,7 @@
 // The light works library on disk and the folder the user's files go to: works round trip in
-// order; a broken, truncated or foreign file reads as an empty library, stays as it was until
-// works are saved over it and is then kept beside; a failed write leaves nothing half done; the
-// folder beside the program is used in a build tree that can be written, else the user's data
-// folder.
+// order; foreign entries are left out; a failed write leaves nothing half done; the folder beside
+// the program is used in a build tree that can be written, else the user's data folder. (Broken
+// files are driven through the light page, tst_lightpage.)
 
 #include "InstallLayout.h"
 #include "LightWorkStore.h"
@@ -49,35 +48,6 @@ private slots:
                  QStringLiteral("ff000000ff00"));
         QVERIFY(readFile(again.filePath()).contains("\n    {")); // indented
         QVERIFY(again.keptBrokenFile().isEmpty());
-    }
-
-    void brokenFiles_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("truncated") << QByteArray("[\n    {\n        \"data\": \"ff00");
-        QTest::newRow("not JSON") << QByteArray("\x89PNG\r\n\x1a\n garbage", 16);
-        QTest::newRow("an object, not a list") << QByteArray("{\"name\": \"x\"}");
-        QTest::newRow("empty") << QByteArray();
-    }
-    void brokenFiles()
-    {
-        QFETCH(QByteArray, content);
-        QTemporaryDir dir;
-        const QString folder = dir.filePath("work");
-        writeFile(folder + "/ledwork.json", content);
-        writeFile(folder + "/other.txt", "kept");
-
-        LightWorkStore store(folder);
-        QVERIFY(store.load().isEmpty());
-        QVERIFY(store.loadedBroken());
-        QCOMPARE(readFile(store.filePath()), content); // left as it was
-
-        QVERIFY(store.save({kTwoWorks.first()}));
-        QCOMPARE(readFile(store.keptBrokenFile()), content);
-        QCOMPARE(readFile(folder + "/other.txt"), QByteArray("kept"));
-        LightWorkStore again(folder);
-        QCOMPARE(again.load(), QList<LightWork>{kTwoWorks.first()});
-        QVERIFY(!again.loadedBroken());
     }
 
     // Entries that aren't works are left out; the rest load in order.

@@ -534,7 +534,7 @@ private slots:
         VirtualHidBackend hid(&clock);
         ModuleMacroManager store(dir.path());
         store.FindMacro(1)->name = QStringLiteral("宏 B");
-        FrameDeviceHolder holder(&hid, &clock, store);
+        FrameDeviceHolder holder(&hid, &clock, store, dir.filePath("work"));
         auto* page = qobject_cast<FrameMacro*>(holder.page(3));
         QVERIFY(page);
         QCOMPARE(page->items().size(), ModuleMacroManager::kFirstStartMacros);

@@ -349,6 +349,81 @@
     </message>
 </context>
 <context>
+    <name>FrameLight</name>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>Delete this work?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>My work %1</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>Preview,Name,Manage</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>My works</translation>
+    </message>
+    <message>
+        <source>图%1</source>
+        <translation>Layer %1</translation>
+    </message>
+    <message>
+        <source>点击按键或在键盘空白处拖出框选来上色；选择写入层即把图写入键盘，选择读取层即从键盘读回。</source>
+        <translation>Click a key, or drag a box from a free spot of the keyboard, to paint. Choosing a layer to write sends the painting to the keyboard; choosing a layer to read brings one back.</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Colour:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>Colour picker:</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Colour picker</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>Random colour:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>Write to layer:</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>Read from layer:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+</context>
+<context>
     <name>FrameMacro</name>
     <message>
         <source>延迟</source>

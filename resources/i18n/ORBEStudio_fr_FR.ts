@@ -349,6 +349,81 @@
     </message>
 </context>
 <context>
+    <name>FrameLight</name>
+    <message>
+        <source>删除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>图%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>点击按键或在键盘空白处拖出框选来上色；选择写入层即把图写入键盘，选择读取层即从键盘读回。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FrameMacro</name>
     <message>
         <source>延迟</source>

@@ -11,6 +11,7 @@
 #include "FrameDeviceShow.h"
 #include "FrameSystemInfo.h"
 #include "HidBackend.h"
+#include "LightWorkStore.h"
 #include "ModuleLangMenu.h"
 #include "ModuleMacroManager.h"
 #include "OrbeDeviceBase.h"
@@ -115,7 +116,8 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, const QS
     registry->setWindowShown(false); // until shown: a hidden window doesn't scan
 
     // 1-3: the form, then the single-instance guard and its watch.
-    ui.setupUi(this, hid.get(), clock, *macroStore);
+    ui.setupUi(this, hid.get(), clock, *macroStore,
+               LightWorkStore::folderIn(dir.isEmpty() ? QString() : appDir));
     claimSingleInstance();
 
     // 4-6: the frameless window and the card page.

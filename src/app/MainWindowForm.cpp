@@ -51,7 +51,7 @@ QPushButton* titleButton(QWidget* parent, const char* name, const char* icon)
 } // namespace
 
 void MainWindowForm::setupUi(QMainWindow* window, HidBackend* hid, Clock* clock,
-                             ModuleMacroManager& macros)
+                             ModuleMacroManager& macros, const QString& worksFolder)
 {
     window->setObjectName(QStringLiteral("MainWindow"));
     centralwidget = new QWidget(window);
@@ -79,7 +79,7 @@ void MainWindowForm::setupUi(QMainWindow* window, HidBackend* hid, Clock* clock,
     page02->setObjectName(QStringLiteral("page02"));
     auto* holdLayout = new QVBoxLayout(page02);
     holdLayout->setContentsMargins(0, 0, 0, 0);
-    frameHold = new FrameDeviceHolder(hid, clock, macros, page02);
+    frameHold = new FrameDeviceHolder(hid, clock, macros, worksFolder, page02);
     frameHold->setObjectName(QStringLiteral("frameHold"));
     holdLayout->addWidget(frameHold);
     stackedWidget->addWidget(page02);

@@ -27,7 +27,8 @@ public:
 
     // hid and clock go to the device page shell, which makes the connection; the macro store to
     // its macro page.
-    void setupUi(QMainWindow* window, HidBackend* hid, Clock* clock, ModuleMacroManager& macros);
+    void setupUi(QMainWindow* window, HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
+                 const QString& worksFolder);
     void retranslateUi(QMainWindow* window);
 
     QWidget* centralwidget = nullptr;

@@ -77,7 +77,7 @@ QString picture(const NavigationEntry& entry, int state)
 } // namespace
 
 FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
-                                     QWidget* parent)
+                                     const QString& worksFolder, QWidget* parent)
     : QFrame(parent), device(new DialogDeviceConnect(hid, clock, QString(), this)),
       keys(std::make_unique<ModuleGenKeymapping>())
 {
@@ -89,10 +89,10 @@ FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroM
     frameMain = new FrameMain(device, this, clock);
     auto* magic = new FrameMagic(this);
     auto* macro = new FrameMacro(macros, this, clock);
-    auto* light = new FrameLight(this);
+    frameLight = new FrameLight(device, worksFolder, clock, this);
     auto* about = new FrameAbout(this);
     keySetting->hide();
-    pages = {frameMain, keySetting, magic, macro, light, about};
+    pages = {frameMain, keySetting, magic, macro, frameLight, about};
     auto* pageLayout = findChild<QHBoxLayout*>(QStringLiteral("horizontalLayoutBR"));
     for (QWidget* page : std::as_const(pages)) {
         page->setFixedSize(kPageSize);

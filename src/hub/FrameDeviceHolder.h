@@ -8,6 +8,7 @@
 class Clock;
 class DialogDeviceConnect;
 class FrameKeySetting;
+class FrameLight;
 class FrameMain;
 class ModuleGenKeymapping;
 class HidBackend;
@@ -30,9 +31,9 @@ public:
     static constexpr int kLayerCount = 4;
 
     // hid and clock must outlive the shell; they serve the connection. The macro store too: the
-    // macro page edits it.
+    // macro page edits it. worksFolder holds the light page's works library.
     FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
-                      QWidget* parent = nullptr);
+                      const QString& worksFolder, QWidget* parent = nullptr);
     ~FrameDeviceHolder() override;
 
     DialogDeviceConnect* connection() const { return device; }
@@ -41,6 +42,7 @@ public:
     int currentPage() const { return pageIndex; }
     QWidget* page(int index) const { return pages.value(index); }
     FrameKeySetting* keySetting() const { return frameKeySetting; }
+    FrameLight* light() const { return frameLight; }
     const ModuleGenKeymapping* keyTables() const { return keys.get(); }
 
     void setDevice(DeviceEnumInfo* device, const QString& deviceImage, const QString& name);
@@ -74,6 +76,7 @@ private:
     QList<QWidget*> pages;
     FrameMain* frameMain = nullptr;
     FrameKeySetting* frameKeySetting = nullptr;
+    FrameLight* frameLight = nullptr;
     int pageIndex = 0;
 
     QLabel* labelName = nullptr;

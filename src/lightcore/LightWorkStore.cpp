@@ -1,5 +1,6 @@
 #include "LightWorkStore.h"
 
+#include "InstallLayout.h"
 #include "JsonFile.h"
 #include "LightLog.h"
 
@@ -21,6 +22,12 @@ LightWorkStore::LightWorkStore(const QString& folder)
     : path(QDir(folder).absoluteFilePath(QLatin1String(kFileName)))
 {
     if (!QDir().mkpath(folder)) qCWarning(lcLighting) << "cannot create the works folder" << folder;
+}
+
+QString LightWorkStore::folderIn(const QString& baseDir)
+{
+    return baseDir.isEmpty() ? InstallLayout().userFilesDir(QLatin1String(kFolderName))
+                             : QDir(baseDir).absoluteFilePath(QLatin1String(kFolderName));
 }
 
 QList<LightWork> LightWorkStore::load()

@@ -22,6 +22,11 @@ class LightWorkStore
 {
 public:
     static constexpr char kFileName[] = "ledwork.json";
+    static constexpr char kFolderName[] = "work";
+
+    // The works folder: "work" in baseDir when one is given (tests, the screenshots), else
+    // where the install layout keeps the user's files.
+    static QString folderIn(const QString& baseDir);
 
     // folder: where the file lives; made if missing.
     explicit LightWorkStore(const QString& folder);
