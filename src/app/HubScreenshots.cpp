@@ -3,7 +3,8 @@
 // read (shell.png), its custom colour tab with the colour picker open over it (picker.png), its
 // macro page with a macro recorded key by key in real time (macro.png) and the insert dialog
 // (macro-insert.png), and its key page with bindings and a bubble (keys.png), the function picker
-// open over it (keypicker.png) and the options panel (options.png). orbe_hub_screenshots
+// open over it (keypicker.png) and the options panel (options.png), and its light page with a
+// painting and the works kept from it (light.png). orbe_hub_screenshots
 // <folder>; not installed, for the README. The hub runs on a copy of the files beside the
 // program, so that the macros recorded here stay out of the build's own.
 
@@ -17,6 +18,7 @@
 #include "FrameDeviceShow.h"
 #include "FrameMacro.h"
 #include "KeyPageShots.h"
+#include "LightPageShots.h"
 #include "MainWindow.h"
 #include "ModuleAddMacroSquare.h"
 #include "ModuleEfColor.h"
@@ -209,6 +211,7 @@ int main(int argc, char* argv[])
         KeyPage,
         KeyPicker,
         Options,
+        Light,
         Done
     } step = Step::Cards;
     int waited = 0;
@@ -302,8 +305,14 @@ int main(int argc, char* argv[])
             step = Step::Options;
             return;
         case Step::Options:
-            result =
-                KeyPageShots::saveComposed(window, out + QStringLiteral("/options.png")) ? 0 : 1;
+            if (!KeyPageShots::saveComposed(window, out + QStringLiteral("/options.png")))
+                app.exit(1);
+            LightPageShots::paintWorks(window);
+            step = Step::Light;
+            return;
+        case Step::Light:
+            if (!window.connection()->isIdle()) return; // the layer is written
+            result = save(window, out + QStringLiteral("/light.png")) ? 0 : 1;
             step = Step::Done;
             app.exit(result);
             return;
