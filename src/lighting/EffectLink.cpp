@@ -6,11 +6,18 @@
 #include "ModuleEfMode.h"
 #include "ModuleEfSpeed.h"
 
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
 namespace {
 
 constexpr quint8 kLedReply = 0x87;
 constexpr quint8 kSideLedReply = 0x88;
 constexpr int kSpeedSteps = 4; // the keyboard's speed byte runs the other way
+constexpr int kGap = 16;
+constexpr int kModeWidth = 300;
+constexpr int kColorWidth = 440;
 
 quint8 byteAt(const QByteArray& data, int index)
 {
@@ -52,6 +59,39 @@ void bind(DialogDeviceConnect* device, const Panel& panel)
                              panel.color->setSideLed(data);
                          }
                      });
+}
+
+QWidget* buildPanel(DialogDeviceConnect* device, Clock* clock, QWidget* parent, Panel* out)
+{
+    auto* panel = new QFrame(parent);
+    auto* layout = new QHBoxLayout(panel);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(kGap);
+    auto* mode = new ModuleEfMode(panel);
+    mode->setObjectName(QStringLiteral("frameLEDMode"));
+    mode->setFixedWidth(kModeWidth);
+    auto* color = new ModuleEfColor(panel, clock);
+    color->setObjectName(QStringLiteral("frameLEDColor"));
+    color->setFixedWidth(kColorWidth);
+
+    auto* frameBR = new QFrame(panel);
+    frameBR->setObjectName(QStringLiteral("frameBR"));
+    auto* levels = new QVBoxLayout(frameBR);
+    levels->setContentsMargins(0, 0, 0, 0);
+    levels->setSpacing(kGap);
+    auto* bright = new ModuleEfLumi(frameBR);
+    bright->setObjectName(QStringLiteral("frameLEDBright"));
+    auto* speed = new ModuleEfSpeed(frameBR);
+    speed->setObjectName(QStringLiteral("frameLEDSpeed"));
+    levels->addWidget(bright, 1);
+    levels->addWidget(speed, 1);
+
+    layout->addWidget(mode);
+    layout->addWidget(color);
+    layout->addWidget(frameBR, 1);
+    *out = {mode, color, bright, speed};
+    bind(device, *out);
+    return panel;
 }
 
 } // namespace EffectLink

@@ -12,14 +12,10 @@ class Clock;
 class DialogColorPicker;
 class DialogDeviceConnect;
 class LightWorkStore;
-class ModuleEfColor;
-class ModuleEfLumi;
-class ModuleEfMode;
-class ModuleEfSpeed;
 class ModuleKeyboard;
 class QButtonGroup;
 class QLabel;
-class QLayout;
+class QGridLayout;
 class QLineEdit;
 class QModelIndex;
 class QPushButton;
@@ -71,7 +67,9 @@ private:
     QWidget* buildWorksPage();
     QWidget* buildWorksCard(QWidget* parent);
     QWidget* buildBrushCard(QWidget* parent);
-    QButtonGroup* buildLayerRow(QWidget* parent, QLayout* into, const char* prefix);
+    // A row of the five layers under a title, at a row of the grid.
+    QButtonGroup* buildLayerRow(QGridLayout* grid, int row, QLabel* title, const char* name,
+                                const char* prefix);
     void retranslate();
 
     void paintKey(uchar code);
@@ -107,10 +105,6 @@ private:
 
     ModuleKeyboard* frameKeyboard = nullptr;
     QStackedWidget* stackedWidgetB = nullptr;
-    ModuleEfMode* frameLEDMode = nullptr;
-    ModuleEfColor* frameLEDColor = nullptr;
-    ModuleEfLumi* frameLEDBright = nullptr;
-    ModuleEfSpeed* frameLEDSpeed = nullptr;
     QTableView* tableView = nullptr;
     QLabel* labelTitle1 = nullptr;
     QLabel* labelHint = nullptr;

@@ -4,10 +4,6 @@
 #include "DialogColorPicker.h"
 #include "EffectLink.h"
 #include "FrameLight.h"
-#include "ModuleEfColor.h"
-#include "ModuleEfLumi.h"
-#include "ModuleEfMode.h"
-#include "ModuleEfSpeed.h"
 #include "ModuleKeyboard.h"
 #include "PictureDelegate.h"
 #include "PillRadioButton.h"
@@ -129,23 +125,8 @@ QWidget* FrameLight::buildEffectPage(Clock* clock)
     page0->setObjectName(QStringLiteral("page0"));
     auto* layout = new QHBoxLayout(page0);
     layout->setContentsMargins(0, 0, 0, 0);
-    frameLEDMode = new ModuleEfMode(page0);
-    frameLEDMode->setObjectName(QStringLiteral("frameLEDMode"));
-    frameLEDColor = new ModuleEfColor(page0, clock);
-    frameLEDColor->setObjectName(QStringLiteral("frameLEDColor"));
-    auto* frameBR = new QFrame(page0);
-    frameBR->setObjectName(QStringLiteral("frameBR"));
-    auto* brLayout = new QVBoxLayout(frameBR);
-    frameLEDBright = new ModuleEfLumi(frameBR);
-    frameLEDBright->setObjectName(QStringLiteral("frameLEDBright"));
-    frameLEDSpeed = new ModuleEfSpeed(frameBR);
-    frameLEDSpeed->setObjectName(QStringLiteral("frameLEDSpeed"));
-    brLayout->addWidget(frameLEDBright);
-    brLayout->addWidget(frameLEDSpeed);
-    layout->addWidget(frameLEDMode);
-    layout->addWidget(frameLEDColor);
-    layout->addWidget(frameBR);
-    EffectLink::bind(device, {frameLEDMode, frameLEDColor, frameLEDBright, frameLEDSpeed});
+    EffectLink::Panel panel{};
+    layout->addWidget(EffectLink::buildPanel(device, clock, page0, &panel));
     return page0;
 }
 
@@ -238,18 +219,9 @@ QWidget* FrameLight::buildBrushCard(QWidget* parent)
     layout->addLayout(brush, 0, 0, 1, 2);
 
     labelTitle5 = namedLabel(card, "labelTitle5");
-    layout->addWidget(labelTitle5, 1, 0);
-    auto* writeRow = new QHBoxLayout;
-    buttonGroupWrite = buildLayerRow(card, writeRow, "radioButtonW");
-    buttonGroupWrite->setObjectName(QStringLiteral("buttonGroupWrite"));
-    layout->addLayout(writeRow, 1, 1);
-
+    buttonGroupWrite = buildLayerRow(layout, 1, labelTitle5, "buttonGroupWrite", "radioButtonW");
     labelTitle6 = namedLabel(card, "labelTitle6");
-    layout->addWidget(labelTitle6, 2, 0);
-    auto* readRow = new QHBoxLayout;
-    buttonGroupRead = buildLayerRow(card, readRow, "radioButtonR");
-    buttonGroupRead->setObjectName(QStringLiteral("buttonGroupRead"));
-    layout->addLayout(readRow, 2, 1);
+    buttonGroupRead = buildLayerRow(layout, 2, labelTitle6, "buttonGroupRead", "radioButtonR");
 
     labelName = namedLabel(card, "labelName");
     layout->addWidget(labelName, 3, 0);
@@ -273,19 +245,24 @@ QWidget* FrameLight::buildBrushCard(QWidget* parent)
     return card;
 }
 
-QButtonGroup* FrameLight::buildLayerRow(QWidget* parent, QLayout* into, const char* prefix)
+QButtonGroup* FrameLight::buildLayerRow(QGridLayout* grid, int row, QLabel* title, const char* name,
+                                        const char* prefix)
 {
     auto* group = new QButtonGroup(this); // automatic ids: -2 is the first layer
-    into->setSpacing(8);
+    group->setObjectName(QLatin1String(name));
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
     for (int layer = 0; layer < kLayers; ++layer) {
-        auto* radio = new PillRadioButton(parent);
+        auto* radio = new PillRadioButton(title->parentWidget());
         radio->setObjectName(QLatin1String(prefix) + QString::number(layer));
         radio->setFixedSize(kLayerButtonSize);
         radio->setFocusPolicy(Qt::NoFocus);
         group->addButton(radio);
-        into->addWidget(radio);
+        buttons->addWidget(radio);
     }
-    static_cast<QHBoxLayout*>(into)->addStretch(1);
+    buttons->addStretch(1);
+    grid->addWidget(title, row, 0);
+    grid->addLayout(buttons, row, 1);
     return group;
 }
 

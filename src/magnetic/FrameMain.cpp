@@ -3,10 +3,6 @@
 #include "DialogDeviceConnect.h"
 #include "EffectLink.h"
 #include "MagnetTables.h"
-#include "ModuleEfColor.h"
-#include "ModuleEfLumi.h"
-#include "ModuleEfMode.h"
-#include "ModuleEfSpeed.h"
 #include "ModuleLinear.h"
 #include "ModuleRtSet.h"
 
@@ -49,7 +45,10 @@ FrameMain::FrameMain(DialogDeviceConnect* deviceIn, QWidget* parent, Clock* cloc
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(kGap);
     layout->addWidget(buildTop());
-    layout->addWidget(buildBottom(clock), 1);
+    EffectLink::Panel lighting{};
+    QWidget* frameBottom = EffectLink::buildPanel(device, clock, this, &lighting);
+    frameBottom->setObjectName(QStringLiteral("frameBottom"));
+    layout->addWidget(frameBottom, 1);
     retranslate();
 
     connect(frameRTSetting, &ModuleRtSet::onSetValue, this, [this](float value, int) {
@@ -59,7 +58,6 @@ FrameMain::FrameMain(DialogDeviceConnect* deviceIn, QWidget* parent, Clock* cloc
     connect(frameLinearSet, &ModuleLinear::onSetValue, this, [this](float value, int type) {
         writeAllKeys(type == 0 ? kRapidPress : kRapidRelease, value);
     });
-    EffectLink::bind(device, {frameLEDMode, frameLEDColor, frameLEDBright, frameLEDSpeed});
 }
 
 QWidget* FrameMain::buildTop()
@@ -106,38 +104,6 @@ QWidget* FrameMain::buildTop()
     rightLayout->addWidget(frameLinear);
     topLayout->addWidget(frameRight);
     return frameTop;
-}
-
-QWidget* FrameMain::buildBottom(Clock* clock)
-{
-    auto* frameBottom = new QFrame(this);
-    frameBottom->setObjectName(QStringLiteral("frameBottom"));
-    auto* layout = new QHBoxLayout(frameBottom);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(kGap);
-    frameLEDMode = new ModuleEfMode(frameBottom);
-    frameLEDMode->setObjectName(QStringLiteral("frameLEDMode"));
-    frameLEDMode->setFixedWidth(300);
-    frameLEDColor = new ModuleEfColor(frameBottom, clock);
-    frameLEDColor->setObjectName(QStringLiteral("frameLEDColor"));
-    frameLEDColor->setFixedWidth(440);
-
-    auto* frameBR = new QFrame(frameBottom);
-    frameBR->setObjectName(QStringLiteral("frameBR"));
-    auto* brLayout = new QVBoxLayout(frameBR);
-    brLayout->setContentsMargins(0, 0, 0, 0);
-    brLayout->setSpacing(kGap);
-    frameLEDBright = new ModuleEfLumi(frameBR);
-    frameLEDBright->setObjectName(QStringLiteral("frameLEDBright"));
-    frameLEDSpeed = new ModuleEfSpeed(frameBR);
-    frameLEDSpeed->setObjectName(QStringLiteral("frameLEDSpeed"));
-    brLayout->addWidget(frameLEDBright, 1);
-    brLayout->addWidget(frameLEDSpeed, 1);
-
-    layout->addWidget(frameLEDMode);
-    layout->addWidget(frameLEDColor);
-    layout->addWidget(frameBR, 1);
-    return frameBottom;
 }
 
 void FrameMain::retranslate()

@@ -4,10 +4,6 @@
 
 class Clock;
 class DialogDeviceConnect;
-class ModuleEfColor;
-class ModuleEfLumi;
-class ModuleEfMode;
-class ModuleEfSpeed;
 class ModuleLinear;
 class ModuleRtSet;
 class QLabel;
@@ -33,7 +29,6 @@ protected:
 
 private:
     QWidget* buildTop();
-    QWidget* buildBottom(Clock* clock);
     void retranslate();
     void writeAllKeys(quint8 table, float millimetres);
 
@@ -42,8 +37,4 @@ private:
     ModuleRtSet* frameRTSetting = nullptr;
     QLabel* labelTitle1 = nullptr;
     ModuleLinear* frameLinearSet = nullptr;
-    ModuleEfMode* frameLEDMode = nullptr;
-    ModuleEfColor* frameLEDColor = nullptr;
-    ModuleEfLumi* frameLEDBright = nullptr;
-    ModuleEfSpeed* frameLEDSpeed = nullptr;
 };
