@@ -11,6 +11,7 @@
 #include "Art.h"
 #include "BrandArt.h"
 #include "DeviceArt.h"
+#include "DksArt.h"
 #include "IconArt.h"
 #include "KeyPageArt.h"
 #include "KeyboardArt.h"
@@ -166,6 +167,7 @@ int main(int argc, char* argv[])
     Art::save(LightArt::lightBand(), res + "light/light.png");
 
     KeyPageArt::saveAll(res);
+    DksArt::saveAll(res);
 
     Art::save(BrandArt::orbeSplash(), beside + "MainPicture.png");
     Art::save(BrandArt::tarnwickSplash(), beside + "trgear.png");
