@@ -2,7 +2,9 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QScreen>
+#include <QStyleOption>
 #include <QVBoxLayout>
 
 namespace {
@@ -54,4 +56,14 @@ void ModuleGeneralMasker::mousePressEvent(QMouseEvent* event)
 {
     emit onClicked();
     QDialog::mousePressEvent(event);
+}
+
+void ModuleGeneralMasker::paintEvent(QPaintEvent*)
+{
+    // A translucent window paints no background of its own: the style sheet's mask is painted
+    // here, whichever style the caller gave.
+    QStyleOption option;
+    option.initFrom(this);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
 }
