@@ -7,6 +7,7 @@
 #include "CustomTooltip.h"
 #include "DialogDeviceConnect.h"
 #include "DialogFNPicker.h"
+#include "DialogKeyPickerBase.h"
 #include "FrameKeySetting.h"
 #include "KeyPositions.h"
 #include "KeyboardButton.h"
@@ -24,6 +25,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 struct KeyPageRig
@@ -91,9 +93,14 @@ struct KeyPageRig
     // then "ok" or "cancel". Returns what the picker's first slot read before it closed.
     QString pick(quint8 code, const QStringList& steps)
     {
+        return runPicker([&] { QTest::mouseClick(key(code), Qt::LeftButton); }, steps);
+    }
+    // The same for a picker that open() brings up (either picker).
+    QString runPicker(const std::function<void()>& open, const QStringList& steps)
+    {
         QString firstSlot;
         QTimer::singleShot(0, page.get(), [&] {
-            auto* picker = page->findChild<DialogFNPicker*>();
+            auto* picker = page->findChild<DialogKeyPickerBase*>();
             if (!picker) return;
             for (const QString& step : steps) {
                 const QString arg = step.section(u' ', 1);
@@ -112,7 +119,7 @@ struct KeyPageRig
                     picker->findChild<QPushButton*>("pushButtonCancel")->click();
             }
         });
-        QTest::mouseClick(key(code), Qt::LeftButton);
+        open();
         settle();
         return firstSlot;
     }

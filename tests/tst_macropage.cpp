@@ -2,12 +2,14 @@
 // dialog, deleting, delays, the list of macros. Each case checks the squares, the file the store
 // wrote and the bytes the keyboard is given.
 
+#include "DialogFNPicker.h"
 #include "FrameDeviceHolder.h"
 #include "FrameMacro.h"
 #include "MacroBlob.h"
 #include "MacroItem.h"
 #include "MacroSquare.h"
 #include "ModuleAddMacroSquare.h"
+#include "ModuleGenKeymapping.h"
 #include "ModuleMacroManager.h"
 #include "SimRig.h"
 #include "TestSupport.h"
@@ -448,6 +450,17 @@ private slots:
         QCOMPARE(listSaved.size(), 2);
         QVERIFY(readFile(rig.store->headerPath()).contains("连招"));
         QCOMPARE(rig.find<QLabel>("labelMacroName")->text(), QStringLiteral("连招"));
+        // Recorded, the macro is offered by its name in the key page's picker, which is made
+        // for each key clicked.
+        const ModuleGenKeymapping keys;
+        const auto offered = [&] {
+            DialogFNPicker picker(keys, *rig.store);
+            return picker.findChild<QPushButton*>("pushButton_Micro02")->text();
+        };
+        QCOMPARE(offered(), QStringLiteral("宏3")); // nothing recorded yet
+        recordPairs(rig, 2, 10);
+        QCOMPARE(rig.page->current(), rig.store->FindMacro(2));
+        QCOMPARE(offered(), QStringLiteral("连招"));
         // An emptied name keeps the old one and saves nothing.
         row->beginRename();
         edit->clear();

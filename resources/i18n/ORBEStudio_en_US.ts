@@ -272,22 +272,6 @@
         <translation>Fn layer</translation>
     </message>
     <message>
-        <source>动态键程(DKS)</source>
-        <translation>Dynamic keystroke (DKS)</translation>
-    </message>
-    <message>
-        <source>按住/单击(MT)</source>
-        <translation>Hold/Tap (MT)</translation>
-    </message>
-    <message>
-        <source>切换开关(TGL)</source>
-        <translation>Toggle (TGL)</translation>
-    </message>
-    <message>
-        <source>SnapKey</source>
-        <translation>SnapKey</translation>
-    </message>
-    <message>
         <source>选择按键</source>
         <translation>Pick a key</translation>
     </message>
@@ -665,6 +649,115 @@
     <message>
         <source>取消</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAdvancedKeys</name>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>Dynamic keystroke (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>Hold/Tap (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>Toggle (TGL)</translation>
+    </message>
+    <message>
+        <source>SnapKey</source>
+        <translation>SnapKey</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>当前按键</source>
+        <translation>Key</translation>
+    </message>
+    <message>
+        <source>按键功能</source>
+        <translation>Function</translation>
+    </message>
+    <message>
+        <source>一个按键在行程的四个位置各触发一个功能。点击上方键盘选择按键，点击行程数值调整触发点。</source>
+        <translation>One key, up to four functions at four points of its travel. Pick the key on the keyboard above; click a travel value to move its point.</translation>
+    </message>
+    <message>
+        <source>单击时</source>
+        <translation>On tap</translation>
+    </message>
+    <message>
+        <source>按住时</source>
+        <translation>On hold</translation>
+    </message>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>Pick a key above and give it two functions, one for a tap and one for a hold (key combinations work too).</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>How long the key must be held to count as a hold</translation>
+    </message>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>Pick a key above and give it a function; a press turns it on and the next turns it off, as repeated presses or as a hold.</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>Repeat</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>Hold</translation>
+    </message>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>Bind two keys, each picked on the keyboard above: while both are held, the one pressed last wins.</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>Key A</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>Key B</translation>
+    </message>
+    <message>
+        <source>未选择</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>No function</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>Tap</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>Hold</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Press (mm)</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>未设置功能</source>
+        <translation>No function</translation>
     </message>
 </context>
 <context>

@@ -272,22 +272,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>动态键程(DKS)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>按住/单击(MT)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>切换开关(TGL)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>SnapKey</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>选择按键</source>
         <translation type="unfinished"></translation>
     </message>
@@ -664,6 +648,115 @@
     </message>
     <message>
         <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAdvancedKeys</name>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SnapKey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>当前按键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按键功能</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>一个按键在行程的四个位置各触发一个功能。点击上方键盘选择按键，点击行程数值调整触发点。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>单击时</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按住时</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未选择</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>未设置功能</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2,9 +2,9 @@
 
 #include "Clock.h"
 #include "DialogDeviceConnect.h"
+#include "ModuleAdvancedKeys.h"
 #include "ModuleDeviceOptions.h"
 #include "ModuleKeyboard.h"
-#include "NewTabWidget.h"
 
 #include <QButtonGroup>
 #include <QEvent>
@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTabWidget>
 #include <QVBoxLayout>
 #include <array>
 
@@ -28,19 +29,6 @@ constexpr std::array<ModeButton, 4> kModes{{
     {"pushButtonSet2", QT_TRANSLATE_NOOP("FrameKeySetting", "高级键")},
     {"pushButtonSet3", QT_TRANSLATE_NOOP("FrameKeySetting", "其他设置")},
     {"pushButtonSet4", QT_TRANSLATE_NOOP("FrameKeySetting", "Fn层设置")},
-}};
-
-// The advanced keys' tabs; their contents come with the advanced key functions.
-struct AdvancedTab
-{
-    const char* name;
-    const char* title;
-};
-constexpr std::array<AdvancedTab, 4> kAdvancedTabs{{
-    {"tab21", QT_TRANSLATE_NOOP("FrameKeySetting", "动态键程(DKS)")},
-    {"tab22", QT_TRANSLATE_NOOP("FrameKeySetting", "按住/单击(MT)")},
-    {"tab23", QT_TRANSLATE_NOOP("FrameKeySetting", "切换开关(TGL)")},
-    {"tab24", QT_TRANSLATE_NOOP("FrameKeySetting", "SnapKey")},
 }};
 
 constexpr QSize kModeButtonSize{120, 32};
@@ -102,8 +90,9 @@ FrameKeySetting::FrameKeySetting(DialogDeviceConnect* connection,
     connect(buttonGroupMode, &QButtonGroup::idClicked, this, &FrameKeySetting::onModeChanged);
     connect(frameKeyboard, &ModuleKeyboard::onKeyClicked, this, &FrameKeySetting::onPickKey);
     connect(frameKeyboard, &ModuleKeyboard::onKeyChanged, this, &FrameKeySetting::onKeyChanged);
+    connect(advanced, &ModuleAdvancedKeys::onSaved, this, &FrameKeySetting::RefreshCustomLayer);
     buttonGroupMode->button(Custom)->click();
-    tabWidgetAdv->setCurrentIndex(0);
+    advanced->tabs()->setCurrentIndex(0);
     frameKeyboard->setSelectionLimit(1);
 }
 
@@ -136,7 +125,8 @@ void FrameKeySetting::buildForm()
     stackedWidget = new QStackedWidget(frameB);
     stackedWidget->setObjectName(QStringLiteral("stackedWidget"));
     stackedWidget->addWidget(buildCustomPage());
-    stackedWidget->addWidget(buildAdvancedPage());
+    advanced = new ModuleAdvancedKeys(device, keys, clock, this, frameT, stackedWidget);
+    stackedWidget->addWidget(advanced);
     auto* page3 = new QWidget(stackedWidget);
     page3->setObjectName(QStringLiteral("page3"));
     auto* page3Layout = new QVBoxLayout(page3);
@@ -215,29 +205,10 @@ QWidget* FrameKeySetting::buildCustomPage()
     return page1;
 }
 
-QWidget* FrameKeySetting::buildAdvancedPage()
-{
-    auto* page2 = new QWidget(this);
-    page2->setObjectName(QStringLiteral("page2"));
-    auto* layout = new QVBoxLayout(page2);
-    layout->setContentsMargins(20, 12, 20, 16);
-    tabWidgetAdv = new NewTabWidget(page2);
-    tabWidgetAdv->setObjectName(QStringLiteral("tabWidgetAdv"));
-    for (const AdvancedTab& tab : kAdvancedTabs) {
-        auto* widget = new QWidget(tabWidgetAdv);
-        widget->setObjectName(QLatin1String(tab.name));
-        tabWidgetAdv->addTab(widget, QString());
-    }
-    layout->addWidget(tabWidgetAdv);
-    return page2;
-}
-
 void FrameKeySetting::retranslate()
 {
     for (int id = 0; id < int(kModes.size()); ++id)
         buttonGroupMode->button(id)->setText(tr(kModes[id].text));
-    for (int i = 0; i < int(kAdvancedTabs.size()); ++i)
-        tabWidgetAdv->setTabText(i, tr(kAdvancedTabs[i].title));
     for (int i = 0; i < int(kSteps.size()); ++i) {
         findChild<QLabel*>(QStringLiteral("labelStepTitle%1").arg(i + 1))
             ->setText(tr(kSteps[i].title));

@@ -6,6 +6,7 @@
 class Clock;
 class ClockTimer;
 class DialogDeviceConnect;
+class ModuleAdvancedKeys;
 class ModuleDeviceOptions;
 class ModuleGenKeymapping;
 class ModuleKeyboard;
@@ -14,7 +15,6 @@ class QButtonGroup;
 class QLabel;
 class QPushButton;
 class QStackedWidget;
-class QTabWidget;
 
 // The key page of a native keyboard: the on-screen keyboard above, four modes below (custom
 // layer, advanced keys, device options, Fn layer). A click on a key opens the picker; what the
@@ -51,7 +51,6 @@ private:
     void buildForm();
     QWidget* buildModeColumn();
     QWidget* buildCustomPage();
-    QWidget* buildAdvancedPage();
     void retranslate();
     void onModeChanged(int id);
     void onPickKey(const QString& text, uchar code);
@@ -67,7 +66,7 @@ private:
     ModuleKeyboard* frameKeyboard = nullptr;
     QButtonGroup* buttonGroupMode = nullptr;
     QStackedWidget* stackedWidget = nullptr;
-    QTabWidget* tabWidgetAdv = nullptr;
+    ModuleAdvancedKeys* advanced = nullptr;
     ModuleDeviceOptions* options = nullptr;
     QLabel* labelFunc = nullptr;
     QLabel* labelNote = nullptr;

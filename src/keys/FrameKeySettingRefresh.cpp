@@ -7,6 +7,7 @@
 #include "KeyNameTable.h"
 #include "KeyPositions.h"
 #include "Macro.h"
+#include "ModuleAdvancedKeys.h"
 #include "ModuleDeviceOptions.h"
 #include "ModuleGenKeymapping.h"
 #include "ModuleKeyboard.h"
@@ -109,9 +110,13 @@ void FrameKeySetting::RefreshFnLayer()
     options->fill();
 }
 
-void FrameKeySetting::onPickKey(const QString&, uchar code)
+void FrameKeySetting::onPickKey(const QString& text, uchar code)
 {
-    if (mode != Custom && mode != FnLayer) return; // the advanced keys fill their own tabs
+    if (mode == Advanced) {
+        advanced->onKeyClicked(text, code);
+        return;
+    }
+    if (mode != Custom && mode != FnLayer) return;
     if (!device) return;
     DialogFNPicker picker(keys, macros, this);
     if (picker.exec() != QDialog::Accepted) return;
