@@ -3,11 +3,13 @@
 // read (shell.png), its custom colour tab with the colour picker open over it (picker.png), its
 // macro page with a macro recorded key by key in real time (macro.png) and the insert dialog
 // (macro-insert.png), and its key page with bindings and a bubble (keys.png), the function picker
-// open over it (keypicker.png) and the options panel (options.png), and its light page with a
-// painting and the works kept from it (light.png). orbe_hub_screenshots
+// open over it (keypicker.png), the options panel (options.png) and the advanced keys' four tabs
+// (dks.png, modtap.png, toggle.png, snapkey.png) with the DKS travel popup (dks-travel.png), and
+// its light page with a painting and the works kept from it (light.png). orbe_hub_screenshots
 // <folder>; not installed, for the README. The hub runs on a copy of the files beside the
 // program, so that the macros recorded here stay out of the build's own.
 
+#include "AdvancedKeyShots.h"
 #include "AppStartup.h"
 #include "Clock.h"
 #include "DeviceEnumInfo.h"
@@ -211,12 +213,15 @@ int main(int argc, char* argv[])
         KeyPage,
         KeyPicker,
         Options,
+        AdvancedKeys,
+        AdvancedTab,
         Light,
         Done
     } step = Step::Cards;
     int waited = 0;
     int macroStep = 0;
     int ticksLeft = 0;
+    int advancedTab = 0;
     FrameMacro* macroPage = nullptr;
     DialogColorPicker* picker = nullptr;
     int result = 1;
@@ -307,6 +312,25 @@ int main(int argc, char* argv[])
         case Step::Options:
             if (!KeyPageShots::saveComposed(window, out + QStringLiteral("/options.png")))
                 app.exit(1);
+            AdvancedKeyShots::writeKeys(window);
+            step = Step::AdvancedKeys;
+            return;
+        case Step::AdvancedKeys:
+            if (!window.connection()->isIdle()) return;
+            AdvancedKeyShots::showTab(window, advancedTab);
+            step = Step::AdvancedTab;
+            return;
+        case Step::AdvancedTab:
+            if (!KeyPageShots::saveComposed(window,
+                                            out + u'/' + AdvancedKeyShots::fileName(advancedTab)))
+                app.exit(1);
+            if (advancedTab == 0 &&
+                !AdvancedKeyShots::saveTravelPopup(window, out + QStringLiteral("/dks-travel.png")))
+                app.exit(1);
+            if (++advancedTab < AdvancedKeyShots::kTabs) {
+                AdvancedKeyShots::showTab(window, advancedTab);
+                return;
+            }
             LightPageShots::paintWorks(window);
             step = Step::Light;
             return;

@@ -71,19 +71,30 @@ void showKeyPage(MainWindow& window)
     FrameDeviceHolder* holder = window.deviceHolder();
     holder->showPage(holder->findChild<SuperLabel*>(QStringLiteral("label2")), kKeyPage);
     holder->keySetting()->RefreshPage();
-    KeyboardButton* key = holder->keySetting()->keyboard()->button(kBubbleKey);
+    hoverKey(window, kBubbleKey);
+}
+
+void hoverKey(MainWindow& window, quint8 code)
+{
+    KeyboardButton* key = window.deviceHolder()->keySetting()->keyboard()->button(code);
+    if (!key) return;
     const QPointF inside(key->width() / 2.0, key->height() / 2.0);
     QEnterEvent enter(inside, inside, key->mapToGlobal(inside));
     QCoreApplication::sendEvent(key, &enter);
 }
 
-void openPicker(MainWindow& window)
+void leaveKey(MainWindow& window, quint8 code)
 {
-    FrameKeySetting* page = window.deviceHolder()->keySetting();
-    if (KeyboardButton* key = page->keyboard()->button(kBubbleKey)) {
+    if (KeyboardButton* key = window.deviceHolder()->keySetting()->keyboard()->button(code)) {
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(key, &leave);
     }
+}
+
+void openPicker(MainWindow& window)
+{
+    FrameKeySetting* page = window.deviceHolder()->keySetting();
+    leaveKey(window, kBubbleKey);
     FrameDeviceHolder* holder = window.deviceHolder();
     openedPicker = new DialogFNPicker(*holder->keyTables(), window.macros(), page);
     openedPicker->show();

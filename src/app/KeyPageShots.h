@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QtGlobal>
 
 class MainWindow;
 class QWidget;
@@ -19,6 +20,10 @@ void openPicker(MainWindow& window);
 void closePicker(MainWindow& window);
 // Shows the options panel.
 void showOptions(MainWindow& window);
+
+// The pointer comes to rest on a key of the key page (its bubble shows), or leaves it.
+void hoverKey(MainWindow& window, quint8 code);
+void leaveKey(MainWindow& window, quint8 code);
 
 // The window with the tool windows over it (bubbles, popups, pickers) painted in place, as the
 // screen shows them.
