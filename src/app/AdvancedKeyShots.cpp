@@ -86,31 +86,29 @@ void clickKey(MainWindow& window, quint8 code)
     if (KeyboardButton* key = keyPage(window)->keyboard()->button(code)) key->click();
 }
 
+void send(QWidget* widget, QEvent::Type type, QPointF at)
+{
+    QMouseEvent event(type, at, widget->mapToGlobal(at), Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
 // Press and release in the middle, as a pointer does.
 void pointAndClick(QWidget* widget)
 {
-    const QPointF at(widget->width() / 2.0, widget->height() / 2.0);
-    for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent event(type, at, widget->mapToGlobal(at), Qt::LeftButton,
-                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(widget, &event);
-    }
+    const QPointF middle(widget->width() / 2.0, widget->height() / 2.0);
+    send(widget, QEvent::MouseButtonPress, middle);
+    send(widget, QEvent::MouseButtonRelease, middle);
 }
 
 // A drag across a DKS row from x to x.
 void dragRow(QWidget* row, int from, int to)
 {
-    const QEvent::Type types[] = {QEvent::MouseButtonPress, QEvent::MouseMove,
-                                  QEvent::MouseButtonRelease};
-    const int xs[] = {from, to, to};
-    for (int i = 0; i < 3; ++i) {
-        const QPointF at(xs[i], 20);
-        QMouseEvent event(types[i], at, row->mapToGlobal(at), Qt::LeftButton,
-                          types[i] == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(row, &event);
-    }
+    constexpr qreal kMiddle = 20;
+    send(row, QEvent::MouseButtonPress, QPointF(from, kMiddle));
+    send(row, QEvent::MouseMove, QPointF(to, kMiddle));
+    send(row, QEvent::MouseButtonRelease, QPointF(to, kMiddle));
 }
 
 } // namespace

@@ -16,6 +16,7 @@ class ModuleDKSItem;
 class ModuleGenKeymapping;
 class QAbstractButton;
 class QButtonGroup;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -69,8 +70,13 @@ private:
     QWidget* buildMtTab();
     QWidget* buildTglTab();
     QWidget* buildSnapTab();
-    QPushButton* newButton(QWidget* owner, const char* name, const char* role);
-    QLabel* newLabel(QWidget* owner, const char* name, const char* role);
+    QPushButton* newButton(QWidget* owner, const QString& name, const char* role);
+    QLabel* newLabel(QWidget* owner, const QString& name, const char* role);
+    QHBoxLayout* tabLayout(QWidget* tab);
+    // A tab whose left column holds its key (pushButton_SUFFIX) over its save
+    // (pushButton_OKSUFFIX).
+    QHBoxLayout* keyedTab(QWidget* tab, const QString& suffix, QPushButton*& key,
+                          QPushButton*& save);
     QVBoxLayout* keyColumn(QWidget* caption, QPushButton* key, QPushButton* save);
     QWidget* tipCard(QWidget* owner, QLabel* text);
     // A button that shows a key or a function: its text, or its own caption while the text is

@@ -157,20 +157,20 @@ void ModuleAdvancedKeys::buildForm()
     layout->addWidget(tabWidgetAdv);
 }
 
-QPushButton* ModuleAdvancedKeys::newButton(QWidget* owner, const char* name, const char* role)
+QPushButton* ModuleAdvancedKeys::newButton(QWidget* owner, const QString& name, const char* role)
 {
     auto* button = new QPushButton(owner);
-    button->setObjectName(QLatin1String(name));
+    button->setObjectName(name);
     button->setProperty("role", QLatin1String(role));
     button->setCursor(Qt::PointingHandCursor);
     button->setFocusPolicy(Qt::NoFocus);
     return button;
 }
 
-QLabel* ModuleAdvancedKeys::newLabel(QWidget* owner, const char* name, const char* role)
+QLabel* ModuleAdvancedKeys::newLabel(QWidget* owner, const QString& name, const char* role)
 {
     auto* label = new QLabel(owner);
-    label->setObjectName(QLatin1String(name));
+    label->setObjectName(name);
     label->setProperty("role", QLatin1String(role));
     return label;
 }
@@ -204,16 +204,29 @@ QWidget* ModuleAdvancedKeys::tipCard(QWidget* owner, QLabel* text)
     return card;
 }
 
-QWidget* ModuleAdvancedKeys::buildDksTab()
+QHBoxLayout* ModuleAdvancedKeys::tabLayout(QWidget* tab)
 {
-    auto* tab = new QWidget();
     auto* layout = new QHBoxLayout(tab);
     layout->setContentsMargins(8, 14, 8, 4);
     layout->setSpacing(28);
-    pushButton_DKS = newButton(tab, "pushButton_DKS", "keycap");
-    pushButton_OKDKS = newButton(tab, "pushButton_OKDKS", "save");
-    layout->addLayout(keyColumn(newLabel(tab, "labelKeyCaptionDKS", "caption"), pushButton_DKS,
-                                pushButton_OKDKS));
+    return layout;
+}
+
+QHBoxLayout* ModuleAdvancedKeys::keyedTab(QWidget* tab, const QString& suffix, QPushButton*& key,
+                                          QPushButton*& save)
+{
+    QHBoxLayout* layout = tabLayout(tab);
+    key = newButton(tab, QStringLiteral("pushButton_") + suffix, "keycap");
+    save = newButton(tab, QStringLiteral("pushButton_OK") + suffix, "save");
+    layout->addLayout(
+        keyColumn(newLabel(tab, QStringLiteral("labelKeyCaption") + suffix, "caption"), key, save));
+    return layout;
+}
+
+QWidget* ModuleAdvancedKeys::buildDksTab()
+{
+    auto* tab = new QWidget();
+    QHBoxLayout* layout = keyedTab(tab, QStringLiteral("DKS"), pushButton_DKS, pushButton_OKDKS);
 
     auto* editor = new QVBoxLayout();
     editor->setSpacing(0);
@@ -260,13 +273,7 @@ QWidget* ModuleAdvancedKeys::buildDksTab()
 QWidget* ModuleAdvancedKeys::buildMtTab()
 {
     auto* tab = new QWidget();
-    auto* layout = new QHBoxLayout(tab);
-    layout->setContentsMargins(8, 14, 8, 4);
-    layout->setSpacing(28);
-    pushButton_MT = newButton(tab, "pushButton_MT", "keycap");
-    pushButton_OKMT = newButton(tab, "pushButton_OKMT", "save");
-    layout->addLayout(
-        keyColumn(newLabel(tab, "labelKeyCaptionMT", "caption"), pushButton_MT, pushButton_OKMT));
+    QHBoxLayout* layout = keyedTab(tab, QStringLiteral("MT"), pushButton_MT, pushButton_OKMT);
 
     auto* grid = new QGridLayout();
     grid->setHorizontalSpacing(16);
@@ -318,13 +325,7 @@ QWidget* ModuleAdvancedKeys::buildMtTab()
 QWidget* ModuleAdvancedKeys::buildTglTab()
 {
     auto* tab = new QWidget();
-    auto* layout = new QHBoxLayout(tab);
-    layout->setContentsMargins(8, 14, 8, 4);
-    layout->setSpacing(28);
-    pushButton_TGL = newButton(tab, "pushButton_TGL", "keycap");
-    pushButton_OKTGL = newButton(tab, "pushButton_OKTGL", "save");
-    layout->addLayout(keyColumn(newLabel(tab, "labelKeyCaptionTGL", "caption"), pushButton_TGL,
-                                pushButton_OKTGL));
+    QHBoxLayout* layout = keyedTab(tab, QStringLiteral("TGL"), pushButton_TGL, pushButton_OKTGL);
 
     auto* column = new QVBoxLayout();
     column->setSpacing(8);
@@ -360,9 +361,7 @@ QWidget* ModuleAdvancedKeys::buildTglTab()
 QWidget* ModuleAdvancedKeys::buildSnapTab()
 {
     auto* tab = new QWidget();
-    auto* layout = new QHBoxLayout(tab);
-    layout->setContentsMargins(8, 14, 8, 4);
-    layout->setSpacing(28);
+    QHBoxLayout* layout = tabLayout(tab);
     buttonGroupSnap = new QButtonGroup(tab);
     buttonGroupSnap->setObjectName(QStringLiteral("buttonGroupSnap"));
     pushButton_Snap1 = newButton(tab, "pushButton_Snap1", "keycap");

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace DksArt {
 
@@ -94,40 +95,41 @@ QImage phase(const Phase& phase)
     return image;
 }
 
-// A switch that is on: a purple disc with a white tick.
-QImage switchOn()
+// A switch, on the 24-unit grid.
+QImage switchPicture(const std::function<void(QPainter&)>& draw)
 {
     QImage image = Art::canvas(kSwitchSize, kSwitchSize);
     QPainter p(&image);
     Art::prepare(p);
     p.scale(kSwitchSize / 24.0, kSwitchSize / 24.0);
+    draw(p);
+    return image;
+}
+
+// On: a purple disc with a white tick.
+void switchOn(QPainter& p)
+{
     p.setPen(Qt::NoPen);
     p.setBrush(Art::colour(Art::Colour::accent));
     p.drawEllipse(QRectF(1, 1, 22, 22));
     p.setPen(Art::linePen(Art::colour(Art::Colour::white), 2.4));
+    p.setBrush(Qt::NoBrush);
     QPainterPath tick;
     tick.moveTo(7, 12.5);
     tick.lineTo(10.5, 16);
     tick.lineTo(17, 8.5);
-    p.setBrush(Qt::NoBrush);
     p.drawPath(tick);
-    return image;
 }
 
 // An empty place: a white disc, a grey rim and a plus.
-QImage switchOff()
+void switchOff(QPainter& p)
 {
-    QImage image = Art::canvas(kSwitchSize, kSwitchSize);
-    QPainter p(&image);
-    Art::prepare(p);
-    p.scale(kSwitchSize / 24.0, kSwitchSize / 24.0);
     p.setPen(Art::linePen(Art::colour(Art::Colour::muted), 1.4));
     p.setBrush(Art::colour(Art::Colour::white));
     p.drawEllipse(QRectF(1.5, 1.5, 21, 21));
     p.setPen(Art::linePen(Art::colour(Art::Colour::icon), 1.8));
     p.drawLine(QPointF(12, 7.5), QPointF(12, 16.5));
     p.drawLine(QPointF(7.5, 12), QPointF(16.5, 12));
-    return image;
 }
 
 } // namespace
@@ -136,8 +138,8 @@ void saveAll(const QString& res)
 {
     for (const Phase& p : kPhases)
         Art::save(phase(p), res + QLatin1String(p.file));
-    Art::save(switchOn(), res + "k/ic_selected.png");
-    Art::save(switchOff(), res + "k/ic_add.png");
+    Art::save(switchPicture(switchOn), res + "k/ic_selected.png");
+    Art::save(switchPicture(switchOff), res + "k/ic_add.png");
 }
 
 } // namespace DksArt
