@@ -8,6 +8,7 @@
 #include "ModuleAdvancedKeys.h"
 #include "ModuleDKSAdjust.h"
 #include "ModuleDKSItem.h"
+#include "ModuleGeneralMasker.h"
 
 #include <QLineEdit>
 #include <QRadioButton>
@@ -101,8 +102,8 @@ struct AdvancedRig : KeyPageRig
     }
 
     // Opens the travel popup from a label and runs: "type TEXT", "wait MS" (the slider's value
-    // is noted after it), "plus", "minus", then "ok" or "cancel". Returns what the text box
-    // opened with, then the values noted.
+    // is noted after it), "plus", "minus", then "ok", "cancel" or "escape" (on the mask). Returns
+    // what the text box opened with, then the values noted.
     QStringList travel(const char* opener, const QStringList& steps)
     {
         QStringList seen;
@@ -117,6 +118,8 @@ struct AdvancedRig : KeyPageRig
                 else if (step.startsWith(QLatin1String("wait "))) {
                     clock.advance(arg.toInt());
                     seen << QString::number(adjust->value());
+                } else if (step == QLatin1String("escape")) {
+                    QTest::keyClick(page->findChild<ModuleGeneralMasker*>(), Qt::Key_Escape);
                 } else {
                     static const QMap<QString, const char*> buttons{{"plus", "pushButtonP1"},
                                                                     {"minus", "pushButtonM1"},
@@ -206,6 +209,9 @@ private slots:
         QTest::newRow("cancel keeps the travel")
             << "labelPress1" << QStringList{"type 2", "wait 300", "cancel"}
             << QStringList{"0.7", "2000"} << "0.7 mm" << 140;
+        QTest::newRow("escape on the mask is a cancel")
+            << "labelPress1" << QStringList{"type 2", "wait 300", "escape"}
+            << QStringList{"0.7", "2000"} << "0.7 mm" << 140;
         QTest::newRow("the peak opens it too, and sets both")
             << "labelRelease4" << QStringList{"type 2", "wait 300", "ok"}
             << QStringList{"0.7", "2000"} << "2.00 mm" << 400;
@@ -220,7 +226,10 @@ private slots:
 
         AdvancedRig rig;
         QCOMPARE(rig.travel(qPrintable(opener), steps), seen);
-        QVERIFY(!rig.widget<ModuleDKSAdjust>("DKSAdjust")->isVisible());
+        // However it closed, the popup is back with the page, hidden, for the next time.
+        auto* popup = rig.widget<ModuleDKSAdjust>("DKSAdjust");
+        QVERIFY(popup && !popup->isVisible());
+        QVERIFY(!rig.page->findChild<ModuleGeneralMasker*>());
         QCOMPARE(rig.label("labelPress1"), shown);
         QCOMPARE(rig.label("labelRelease2"), shown);
         QCOMPARE(rig.label("labelPress2"), QString("3.2 mm"));

@@ -201,9 +201,9 @@ void ModuleAdvancedKeys::openTravel(QLabel* label)
         masker.setStyleSheet(QLatin1String(kTravelMaskStyle));
         masker.exec();
     }
-    // The masker hands the popup back loose (or, closed another way, would take it along).
+    // The masker hands the popup back loose however it closed (Escape hides the masker, and so
+    // the popup); the module keeps it.
     dksAdjust->setParent(this);
-    dksAdjust->hide();
 }
 
 void ModuleAdvancedKeys::onTravelSaved(const QString& text)
