@@ -2,9 +2,12 @@
 
 // A connection on the scripted backend in virtual time, for the protocol tests.
 
+#include "ConsoleModel.h"
 #include "DialogDeviceConnect.h"
 #include "FakeHidBackend.h"
+#include "MagnetTables.h"
 #include "ManualClock.h"
+#include "ModuleGenKeymapping.h"
 
 #include <QTemporaryDir>
 #include <memory>
@@ -14,8 +17,9 @@ struct ConnectionRig
     ManualClock clock;
     FakeHidBackend hid{&clock};
     QTemporaryDir dir;
+    ModuleGenKeymapping keys;
     std::unique_ptr<DialogDeviceConnect> conn =
-        std::make_unique<DialogDeviceConnect>(&hid, &clock, iniPath());
+        std::make_unique<DialogDeviceConnect>(&hid, &clock, keys, iniPath());
 
     QString iniPath() const { return dir.filePath("config/device.ini"); }
     // Connects to a wired keyboard; the first frames go out as the clock moves on.

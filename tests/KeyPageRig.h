@@ -34,14 +34,15 @@ struct KeyPageRig
     VirtualHidBackend hid{&clock};
     VirtualKeyboard* keyboard = hid.addWiredKeyboard();
     QTemporaryDir dir;
-    std::unique_ptr<DialogDeviceConnect> link;
     ModuleGenKeymapping keys;
+    std::unique_ptr<DialogDeviceConnect> link;
     std::unique_ptr<ModuleMacroManager> macros;
     std::unique_ptr<FrameKeySetting> page;
 
     KeyPageRig()
     {
-        link = std::make_unique<DialogDeviceConnect>(&hid, &clock, dir.filePath("device.ini"));
+        link = std::make_unique<DialogDeviceConnect>(&hid, &clock, keys, dir.filePath("device.ini"),
+                                                     std::make_unique<InlineHidExecutor>());
         macros = std::make_unique<ModuleMacroManager>(dir.path());
         page = std::make_unique<FrameKeySetting>(link.get(), keys, *macros, &clock);
         // As the page shell wires it.

@@ -3,8 +3,10 @@
 // A connection on the virtual keyboard in virtual time, for the tests that check what reached
 // the firmware: the protocol's round trips and the pages.
 
+#include "ConsoleModel.h"
 #include "DialogDeviceConnect.h"
 #include "ManualClock.h"
+#include "ModuleGenKeymapping.h"
 #include "VirtualHidBackend.h"
 
 #include <QTemporaryDir>
@@ -18,12 +20,14 @@ struct SimRig
     VirtualHidBackend hid{&clock};
     VirtualKeyboard* keyboard;
     QTemporaryDir dir;
+    ModuleGenKeymapping keys;
     std::unique_ptr<DialogDeviceConnect> conn;
 
     explicit SimRig(bool wireless = false)
         : keyboard(wireless ? hid.addWirelessKeyboard() : hid.addWiredKeyboard())
     {
-        conn = std::make_unique<DialogDeviceConnect>(&hid, &clock, dir.filePath("device.ini"));
+        conn =
+            std::make_unique<DialogDeviceConnect>(&hid, &clock, keys, dir.filePath("device.ini"));
         QObject::connect(conn.get(), &DialogDeviceConnect::onUpdataLayer, conn.get(),
                          [this](int layer) { conn->DoSetProfile(quint8(layer)); });
         if (wireless)

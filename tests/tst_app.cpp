@@ -1,6 +1,7 @@
 #include "AppStartup.h"
 #include "DialogDeviceConnect.h"
 #include "ManualClock.h"
+#include "ModuleGenKeymapping.h"
 #include "VirtualHidBackend.h"
 
 #include <QApplication>
@@ -203,7 +204,9 @@ private slots:
         std::unique_ptr<HidBackend> hid = AppStartup::traceTo(std::move(devices), path);
         QCOMPARE(AppStartup::virtualSetOf(hid.get()), virtualSet);
         {
-            DialogDeviceConnect link(hid.get(), &clock, dir.filePath("device.ini"));
+            ModuleGenKeymapping keys;
+            DialogDeviceConnect link(hid.get(), &clock, keys, dir.filePath("device.ini"),
+                                     std::make_unique<InlineHidExecutor>());
             link.connectStep();
             QVERIFY(clock.advanceUntil([&] { return link.isIdle(); }, 10000, 5));
         }

@@ -65,7 +65,7 @@ private slots:
         QCOMPARE(connected.count(), 1);
         QCOMPARE(lost.count(), 0);
         QCOMPARE(rig.hid.openHandles(), 3);
-        QVERIFY(rig.conn->inputLampOk() && rig.conn->commandLampOk());
+        QVERIFY(rig.conn->console().inputLampOk() && rig.conn->console().commandLampOk());
         // The input handle is non-blocking; the command handles are left as opened.
         QCOMPARE(rig.hid.count("nonblock"), 1);
         // "1B 01" goes out at once, 8F five milliseconds later.
@@ -188,7 +188,7 @@ private slots:
         QVERIFY(rig.clock.advanceUntil([&] { return layer.count() > 0; }, 1000));
         // The profile byte is sign-extended.
         QCOMPARE(layer.first().first().toInt(), -1);
-        QCOMPARE(rig.conn->versionText(), QString("Ver:0x300 Id:2807[AF7]"));
+        QCOMPARE(rig.conn->console().versionText(), QString("Ver:0x300 Id:2807[AF7]"));
         QList<quint8> order;
         for (const QByteArray& f : rig.hid.sentFrames())
             if (order.isEmpty() || order.last() != quint8(f.at(0))) order.append(quint8(f.at(0)));
@@ -241,13 +241,13 @@ private slots:
         // The keyboard answers 86 with a reply that doesn't even start with 86.
         rig.answer(0x86, hex("05 04 00 00 00 00 00 00"));
         rig.connectAndSettle();
-        const int row = rig.conn->rowOfCommand(0x05);
-        const QByteArray before = rig.conn->rows().bytes(row);
+        const int row = rig.conn->console().rowOfCommand(0x05);
+        const QByteArray before = rig.conn->console().rows().bytes(row);
         rig.conn->DoSendHex("86", true);
         rig.clock.advance(20);
         QCOMPARE(rig.conn->GetDebounce(), quint8(4));
         // Without bit 7 in its first byte the reply doesn't touch the console's rows.
-        QCOMPARE(rig.conn->rows().bytes(row), before);
+        QCOMPARE(rig.conn->console().rows().bytes(row), before);
     }
 
     void readRepliesFillConsoleRows()
@@ -259,7 +259,7 @@ private slots:
         rig.clock.advance(20);
         QCOMPARE(rig.conn->GetLedParams(5).left(8), hex("87 05 01 02 27 10 20 30"));
         // The row of 07 shows effect, 4 minus speed and brightness; the 87 row shows 1..7.
-        const ConsoleRows& rows = rig.conn->rows();
+        const ConsoleRows& rows = rig.conn->console().rows();
         QCOMPARE(rows.cell(rows.rowOf(0x07), 1), 5);
         QCOMPARE(rows.cell(rows.rowOf(0x07), 2), 3);
         QCOMPARE(rows.cell(rows.rowOf(0x07), 3), 2);
@@ -336,9 +336,9 @@ private slots:
         // Refresh enumerates the vendor, then the connect step enumerates vid and pid.
         QCOMPARE(rig.hid.enumerateCalls, enumerations + 2);
         QCOMPARE(connected.count(), 1);
-        QCOMPARE(rig.conn->pidList(), (QStringList{"502F", "5030"}));
-        QCOMPARE(rig.conn->pidListIndex(), 0);
-        QCOMPARE(rig.conn->pidText(), QString("502F"));
+        QCOMPARE(rig.conn->console().pidList(), (QStringList{"502F", "5030"}));
+        QCOMPARE(rig.conn->console().pidListIndex(), 0);
+        QCOMPARE(rig.conn->console().pidText(), QString("502F"));
         // Choosing another product id by hand connects to it.
         rig.hid.log.clear();
         rig.conn->selectPid("5030");
@@ -355,17 +355,17 @@ private slots:
         rig.connectWired();
         rig.clock.advance(3000);
         rig.hid.log.clear();
-        ConsoleRows& rows = rig.conn->rows();
+        ConsoleRows& rows = rig.conn->console().rows();
         const int row = rows.rowOf(0x07);
         rows.setCell(row, 3, 9);
         rig.conn->BuildRowCommand(row, false);
-        QCOMPARE(rig.conn->commandLine(), QString("07 01 03 09 07 FF FF FF"));
+        QCOMPARE(rig.conn->console().commandLine(), QString("07 01 03 09 07 FF FF FF"));
         QCOMPARE(rig.hid.sentFrames().size(), 0);
         rig.conn->BuildRowCommand(row, true);
         QCOMPARE(rig.hid.sentFrames(9).last(),
                  Frame::close(hex("07 01 03 09 07 FF FF FF")).left(9));
         // Hex that stops making sense is sent as far as it parses.
-        rig.conn->setCommandLine(" 06 02 zz");
+        rig.conn->console().setCommandLine(" 06 02 zz");
         rig.conn->writeCommandLine();
         QCOMPARE(rig.hid.sentFrames().last().left(2), hex("06 02"));
     }

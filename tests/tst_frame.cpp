@@ -1,7 +1,7 @@
 // Framing, checksum, transports and the command catalogue.
 
 #include "CommandCatalogue.h"
-#include "DialogDeviceConnect.h"
+#include "ConsoleModel.h"
 #include "FakeHidBackend.h"
 #include "Frame.h"
 #include "ManualClock.h"
@@ -175,7 +175,7 @@ private slots:
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QString, text);
-        QCOMPARE(DialogDeviceConnect::logText(bytes), text);
+        QCOMPARE(ConsoleModel::logText(bytes), text);
     }
 };
 

@@ -401,7 +401,8 @@ private slots:
         VirtualHidBackend hid(QtClock::shared());
         VirtualKeyboard* keyboard = hid.addWiredKeyboard();
         QTemporaryDir dir;
-        DialogDeviceConnect conn(&hid, QtClock::shared(), dir.filePath("device.ini"));
+        ModuleGenKeymapping keys;
+        DialogDeviceConnect conn(&hid, QtClock::shared(), keys, dir.filePath("device.ini"));
         QObject::connect(&conn, &DialogDeviceConnect::onUpdataLayer, &conn,
                          [&conn](int layer) { conn.DoSetProfile(quint8(layer)); });
         FrameMain page(&conn);

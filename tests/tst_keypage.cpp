@@ -444,8 +444,8 @@ private slots:
         VirtualHidBackend hid(QtClock::shared());
         VirtualKeyboard* keyboard = hid.addWiredKeyboard();
         QTemporaryDir dir;
-        DialogDeviceConnect link(&hid, QtClock::shared(), dir.filePath("device.ini"));
         ModuleGenKeymapping keys;
+        DialogDeviceConnect link(&hid, QtClock::shared(), keys, dir.filePath("device.ini"));
         ModuleMacroManager macros(dir.path());
         FrameKeySetting page(&link, keys, macros);
         connect(&link, &DialogDeviceConnect::onUpdataLayer, &link,

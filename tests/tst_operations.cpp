@@ -296,7 +296,7 @@ private slots:
         QCOMPARE(quint8(scan.at(0)), quint8(1));
         QCOMPARE(quint8(scan.at(255)), quint8(4));
         // The FE pages went to the scan, not to the table's cache.
-        QCOMPARE(rig.conn->GetMagnetTable(DialogDeviceConnect::magnetTableIndex(0xFE)).size(), 0);
+        QCOMPARE(rig.conn->GetMagnetTable(MagnetTables::indexOf(0xFE)).size(), 0);
         rig.conn->DoStopCalibration();
         QCOMPARE(rig.conn->queuedCount(), 0);
         QCOMPARE(rig.hid.sentFrames().last(), hex("1E 00 00 00 00 00 00 E1"));
@@ -406,13 +406,14 @@ private slots:
         VirtualHidBackend hid(&clock);
         VirtualKeyboard* keyboard = hid.addWiredKeyboard(0x0EC3, 0x0500);
         QTemporaryDir dir;
-        DialogDeviceConnect conn(&hid, &clock, dir.filePath("device.ini"));
+        ModuleGenKeymapping keys;
+        DialogDeviceConnect conn(&hid, &clock, keys, dir.filePath("device.ini"));
         QObject::connect(&conn, &DialogDeviceConnect::onUpdataLayer, &conn,
                          [&](int layer) { conn.DoSetProfile(quint8(layer)); });
         QSignalSpy done(&conn, &DialogDeviceConnect::onReadDone);
         conn.connectStep();
         QVERIFY(done.wait(20000));
-        QCOMPARE(conn.versionText(), QString("Ver:0x500 Id:3779[EC3]"));
+        QCOMPARE(conn.console().versionText(), QString("Ver:0x500 Id:3779[EC3]"));
         QCOMPARE(conn.GetKeyMatrix(0), keyboard->model().keyMap(0, 0));
         QCOMPARE(conn.GetMagnetTable(MagnetTables::indexOf(0x00)),
                  keyboard->model().magnetTable(0x00));

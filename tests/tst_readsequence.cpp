@@ -123,7 +123,8 @@ private slots:
         // The version is not asked again; the field reads 0 while the label keeps it.
         QCOMPARE(rig.conn->GetFirmwareVersion(), quint16(0));
         QCOMPARE(rig.conn->GetTravelScale(), quint16(10));
-        QVERIFY(rig.conn->versionText().startsWith(QString::asprintf("Ver:0x%03X", version)));
+        QVERIFY(
+            rig.conn->console().versionText().startsWith(QString::asprintf("Ver:0x%03X", version)));
         // The cache holds what came: four layers of eight pages in page order.
         for (int layer = 0; layer < 4; ++layer) {
             const QByteArray m = rig.conn->GetKeyMatrix(layer);
@@ -133,8 +134,7 @@ private slots:
         }
         QCOMPARE(rig.conn->GetFnMatrix(0).size(), 640);
         QCOMPARE(quint8(rig.conn->GetFnMatrix(0).at(639)), quint8(0xA9));
-        QCOMPARE(rig.conn->GetMagnetTable(DialogDeviceConnect::magnetTableIndex(0x0A)).size(),
-                 tables ? 512 : 0);
+        QCOMPARE(rig.conn->GetMagnetTable(MagnetTables::indexOf(0x0A)).size(), tables ? 512 : 0);
         QCOMPARE(rig.conn->GetSleepTimes()[1], quint16(300));
         QCOMPARE(rig.conn->GetSleepTimes()[2], quint16(3600));
     }
@@ -217,8 +217,8 @@ private slots:
         QCOMPARE(rig.done.count(), 1);
         QVERIFY(rig.conn->queuedCount() > 0);
         const int sent = rig.hid.sentFrames().size();
-        rig.conn->rows().setCell(rig.conn->rowOfCommand(0x06), 1, 3);
-        rig.conn->BuildRowCommand(rig.conn->rowOfCommand(0x06), true);
+        rig.conn->console().rows().setCell(rig.conn->console().rowOfCommand(0x06), 1, 3);
+        rig.conn->BuildRowCommand(rig.conn->console().rowOfCommand(0x06), true);
         QCOMPARE(rig.hid.sentFrames().size(), sent);
         // A kick restarts the pump and the sequence runs out.
         rig.conn->DoSendCommand(0x86, 8, false);

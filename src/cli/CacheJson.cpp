@@ -1,5 +1,6 @@
 #include "CacheJson.h"
 
+#include "ConsoleModel.h"
 #include "DialogDeviceConnect.h"
 #include "MagnetTables.h"
 #include "NativeKeyboardModel.h"
@@ -72,7 +73,7 @@ QJsonObject fromConnection(const DialogDeviceConnect& d)
     // The connection's own version field reads 0 once a read sequence began (the protocol
     // doesn't ask again); the identity block keeps what the keyboard said.
     o.insert(QStringLiteral("firmwareVersion"), reportedFirmwareVersion(d));
-    o.insert(QStringLiteral("versionText"), d.versionText());
+    o.insert(QStringLiteral("versionText"), d.console().versionText());
     o.insert(QStringLiteral("versionAtLeast300"), d.VersionAtLeast300());
     o.insert(QStringLiteral("versionAtLeast400"), d.VersionAtLeast400());
     o.insert(QStringLiteral("travelScale"), d.GetTravelScale());

@@ -2,9 +2,11 @@
 
 #include "CacheJson.h"
 #include "Clock.h"
+#include "ConsoleModel.h"
 #include "DeviceListCommand.h"
 #include "DialogDeviceConnect.h"
 #include "HidapiBackend.h"
+#include "InstallLayout.h"
 #include "TracingHidBackend.h"
 #include "VirtualHidBackend.h"
 #include "VirtualKeyboard.h"
@@ -91,11 +93,12 @@ bool CliSession::openBackend()
         hid = tracer.get();
     }
 
-    device = std::make_unique<DialogDeviceConnect>(hid, clock);
+    device = std::make_unique<DialogDeviceConnect>(
+        hid, clock, keys, InstallLayout().settingsFile(QStringLiteral("device.ini")));
     if (!options.simulate) {
         // What the connection loaded from device.ini, unless given.
-        vid = options.vid.value_or(device->vidText().trimmed().toUShort(nullptr, 16));
-        pid = options.pid.value_or(device->pidText().trimmed().toUShort(nullptr, 16));
+        vid = options.vid.value_or(device->console().vidText().trimmed().toUShort(nullptr, 16));
+        pid = options.pid.value_or(device->console().pidText().trimmed().toUShort(nullptr, 16));
     }
 
     connect(device.get(), &DialogDeviceConnect::onConnect, this, [this] { opened = true; });
@@ -128,8 +131,8 @@ bool CliSession::connectKeyboard()
         device->DoConnectDevice(vid, pid, true, ids, QString::fromUtf8(wirelessPath));
         opened = device->isConnected();
     } else {
-        device->setVidText(QString::asprintf("%04X", vid));
-        device->setPidText(QString::asprintf("%04X", pid));
+        device->console().setVidText(QString::asprintf("%04X", vid));
+        device->console().setPidText(QString::asprintf("%04X", pid));
         opened = false;
         device->connectStep();
     }
@@ -204,7 +207,7 @@ void CliSession::printInfo(int layer)
                .arg(device->GetDeviceId())
                .arg(QString::number(device->GetDeviceId(), 16).toUpper());
     out << QString::asprintf("firmware version: 0x%03X\n", device->GetFirmwareVersion());
-    out << QStringLiteral("version text: %1\n").arg(device->versionText());
+    out << QStringLiteral("version text: %1\n").arg(device->console().versionText());
     out << QStringLiteral("profile: %1\n").arg(layer);
     out << QStringLiteral("transport: %1\n")
                .arg(device->isWirelessConnection() ? QStringLiteral("wireless")

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CliOptions.h"
+#include "ModuleGenKeymapping.h"
 
 #include <QObject>
 #include <memory>
@@ -55,6 +56,7 @@ private:
     QTextStream& out;
     QTextStream& err;
     Clock* clock;
+    ModuleGenKeymapping keys;
 
     std::unique_ptr<HidBackend> backend;
     std::unique_ptr<QFile> traceFile;

@@ -17,6 +17,11 @@ struct Table
 
 constexpr int kValues = 128;
 
+// The tables the connection itself reads values of.
+constexpr std::uint8_t kKeyModeTable = 0x07;     // bits 0-6 the mode, bit 7 the key flag
+constexpr std::uint8_t kSnapPartnerTable = 0x09; // a SnapKey's partner position
+constexpr std::uint8_t kSensorTable = 0xFE;      // what the calibration scan reads
+
 constexpr std::array<Table, 15> kTables{{
     {0x00, 2, 4, "actuation"},              // actuation travel, 0.005 mm
     {0x01, 2, 4, "release"},                // release travel

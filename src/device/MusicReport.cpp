@@ -1,7 +1,7 @@
 #include "MusicReport.h"
 
 #include "AudioSampleBlock.h"
-#include "DeviceBytes.h"
+#include "CommandLayouts.h"
 #include "Frame.h"
 
 #include <algorithm>
@@ -28,7 +28,7 @@ Levels levels(const AudioSampleBlock& block)
 
 QByteArray wiredReport(const Levels& levels)
 {
-    QByteArray command = DeviceBytes::command(kCommand, kLevelOffset + kLevelCount);
+    QByteArray command = CommandLayouts::plain(kCommand, kLevelOffset + kLevelCount);
     for (int i = 0; i < kLevelCount; ++i)
         command[kLevelOffset + i] = static_cast<char>(levels[std::size_t(i)]);
     return Frame::wrapWired(Frame::close(command));

@@ -9,6 +9,7 @@
 #include "FrameMagic.h"
 #include "FrameMain.h"
 #include "HubLog.h"
+#include "InstallLayout.h"
 #include "LinearFixing1.h"
 #include "ModuleGenKeymapping.h"
 #include "ModuleMacroManager.h"
@@ -78,8 +79,10 @@ QString picture(const NavigationEntry& entry, int state)
 
 FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
                                      const QString& worksFolder, QWidget* parent)
-    : QFrame(parent), device(new DialogDeviceConnect(hid, clock, QString(), this)),
-      keys(std::make_unique<ModuleGenKeymapping>())
+    : QFrame(parent), keys(std::make_unique<ModuleGenKeymapping>()),
+      device(new DialogDeviceConnect(hid, clock, *keys,
+                                     InstallLayout().settingsFile(QStringLiteral("device.ini")),
+                                     nullptr, this))
 {
     setObjectName(QStringLiteral("FrameDeviceHolder"));
     buildForm();

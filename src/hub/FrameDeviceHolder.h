@@ -68,9 +68,9 @@ private:
     void onLayerClicked(int id);
     void openCalibration();
 
-    DialogDeviceConnect* device;
-    // The key tables, which the pages are handed.
+    // The key tables, which the connection and the pages are handed.
     std::unique_ptr<ModuleGenKeymapping> keys;
+    DialogDeviceConnect* device;
     DeviceEnumInfo* current = nullptr;
     QList<SuperLabel*> labels;
     QList<QWidget*> pages;

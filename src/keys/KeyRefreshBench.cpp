@@ -29,7 +29,9 @@ int main(int argc, char* argv[])
     VirtualHidBackend hid(&clock);
     hid.addWiredKeyboard();
     QTemporaryDir dir;
-    DialogDeviceConnect link(&hid, &clock, dir.filePath("device.ini"));
+    ModuleGenKeymapping keys;
+    DialogDeviceConnect link(&hid, &clock, keys, dir.filePath("device.ini"),
+                             std::make_unique<InlineHidExecutor>());
     QObject::connect(&link, &DialogDeviceConnect::onUpdataLayer, &link,
                      [&](int layer) { link.DoSetProfile(quint8(layer)); });
     link.connectStep();

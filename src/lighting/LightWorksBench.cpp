@@ -8,6 +8,7 @@
 #include "FrameLight.h"
 #include "KeyboardButton.h"
 #include "ManualClock.h"
+#include "ModuleGenKeymapping.h"
 #include "ModuleKeyboard.h"
 #include "VirtualHidBackend.h"
 
@@ -38,7 +39,9 @@ int main(int argc, char* argv[])
     VirtualHidBackend hid(&clock);
     hid.addWiredKeyboard();
     QTemporaryDir dir;
-    DialogDeviceConnect link(&hid, &clock, dir.filePath("device.ini"));
+    ModuleGenKeymapping keys;
+    DialogDeviceConnect link(&hid, &clock, keys, dir.filePath("device.ini"),
+                             std::make_unique<InlineHidExecutor>());
     const QString folder = dir.filePath(QStringLiteral("work"));
 
     QTextStream out(stdout);

@@ -1,0 +1,91 @@
+#include "ConsoleModel.h"
+
+#include "Clock.h"
+#include "DeviceLog.h"
+#include "Frame.h"
+
+#include <QSettings>
+
+namespace {
+
+constexpr const char* kVidKey = "lastVID";
+constexpr const char* kPidKey = "lastPID";
+constexpr const char* kDefaultVid = "3151";
+constexpr const char* kDefaultPid = "502F";
+constexpr int kLogGroup = 12; // characters of four bytes in hex with their blanks
+
+} // namespace
+
+ConsoleModel::ConsoleModel(Clock* clock, const QString& settingsPath, QObject* parent)
+    : QObject(parent), settings(std::make_unique<QSettings>(settingsPath, QSettings::IniFormat))
+{
+    lineVid = settings->value(kVidKey, kDefaultVid).toString();
+    linePid = settings->value(kPidKey, kDefaultPid).toString();
+    consoleRows.changed = [this](int row) { emit rowChanged(row); };
+    logClearTimer = clock->createTimer([this] { logClearPending = true; }, true);
+}
+
+ConsoleModel::~ConsoleModel() = default;
+
+void ConsoleModel::setCommandLine(const QString& text)
+{
+    lineCommand = text;
+    emit commandLineChanged(text);
+}
+
+void ConsoleModel::setPidList(const QStringList& pids)
+{
+    comboPids = pids;
+    // The list is filled with its signals blocked: the selection doesn't touch the PID text.
+    const int match = pids.indexOf(linePid.trimmed().toUpper());
+    comboIndex = match >= 0 ? match : (pids.isEmpty() ? -1 : 0);
+    emit pidListChanged();
+}
+
+void ConsoleModel::selectPid(const QString& pidText)
+{
+    comboIndex = comboPids.indexOf(pidText);
+    linePid = pidText;
+}
+
+void ConsoleModel::setVersion(quint16 version, quint32 deviceId)
+{
+    labelVersion = QString::asprintf("Ver:0x%03X Id:%d[%03X]", version, int(deviceId), deviceId);
+    emit versionTextChanged(labelVersion);
+}
+
+void ConsoleModel::setLamps(bool inputOk, bool commandOk)
+{
+    lampInput = inputOk;
+    lampCommand = commandOk;
+    emit lampsChanged(inputOk, commandOk);
+}
+
+void ConsoleModel::rememberIds()
+{
+    settings->setValue(kVidKey, lineVid.trimmed());
+    settings->setValue(kPidKey, linePid.trimmed());
+    settings->sync();
+    if (settings->status() != QSettings::NoError)
+        qCWarning(lcDevice) << "could not write" << settings->fileName();
+}
+
+QString ConsoleModel::logText(const QByteArray& bytes)
+{
+    QString text = Frame::hexText(bytes);
+    for (int i = text.size() - kLogGroup; i > 0; i -= kLogGroup)
+        text.insert(i, QLatin1Char(' '));
+    return text;
+}
+
+void ConsoleModel::log(const QByteArray& bytes, bool lineEnd)
+{
+    const QString text = logText(bytes);
+    qCDebug(lcDevice).noquote() << text;
+    if (logClearPending) {
+        logClearPending = false;
+        emit logCleared();
+    }
+    emit logLine(text, lineEnd);
+    logClearTimer->start(kLogClearMs);
+}
