@@ -11,12 +11,10 @@ QString nameOf(const QString& operation)
 
 } // namespace
 
-FakePlatform* FakePlatform::install()
+FakePlatform& FakePlatform::shared()
 {
-    auto fake = std::make_unique<FakePlatform>();
-    FakePlatform* installed = fake.get();
-    Platform::replaceInstance(std::move(fake));
-    return installed;
+    static FakePlatform platform;
+    return platform;
 }
 
 QStringList FakePlatform::operationsNamed(std::initializer_list<const char*> names) const

@@ -26,8 +26,8 @@ public:
     QHash<QString, WindowId> windowsByTitle; // what findWindow answers
     QHash<WindowId, QRect> windowRects;      // what windowRect answers
 
-    // Puts a new fake in the platform's place for the rest of the program.
-    static FakePlatform* install();
+    // The one fake of a test program, which the windows under test are given.
+    static FakePlatform& shared();
     // Forgets the record and every answer and state given so far.
     void reset() { *this = FakePlatform(); }
 

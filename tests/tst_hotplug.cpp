@@ -1,9 +1,10 @@
-// Hot-plug: the 300 ms debounce and the virtual devices' plug events reaching the notifier. The
-// road on to a pass on the discovery thread and the cards runs in real time in tst_hubwindow.
+// Hot-plug: the 300 ms debounce and the virtual devices' plug events becoming the backend's
+// notice. The road on to a pass on the discovery thread and the cards runs in real time in
+// tst_hubwindow.
 
 #include "ManualClock.h"
 #include "ScanDebounce.h"
-#include "USBNotifier.h"
+#include "USBNotifier.h" // the Windows message filter
 #include "VirtualHidBackend.h"
 
 #include <QSignalSpy>
@@ -21,7 +22,7 @@ class TestHotplug : public QObject
 private slots:
     void debounce_data();
     void debounce();
-    void virtualPlugEventsReachTheNotifier();
+    void virtualPlugEventsBecomeTheBackendsNotice();
 #ifdef Q_OS_WIN
     void deviceChangeMessage();
 #endif
@@ -45,13 +46,13 @@ void TestHotplug::debounce()
     QFETCH(QList<qint64>, requestsAt);
     ManualClock clock;
     QList<qint64> requests;
-    USBNotifier notifier;
+    VirtualHidBackend hid(&clock);
     ScanDebounce debounce(&clock, [&] { requests.append(clock.elapsedMs()); });
-    connect(&notifier, &USBNotifier::devicePluggined, &debounce, &ScanDebounce::onDevicePluggined);
+    connect(&hid, &HidBackend::devicePluggined, &debounce, &ScanDebounce::onDevicePluggined);
 
     for (int i = 0; i < events; ++i) {
         if (i > 0) clock.advance(spacingMs);
-        notifier.reportDeviceChange();
+        hid.reportDeviceChange();
     }
     const qint64 last = clock.elapsedMs();
     clock.advance(requestsAt.last() - last - 1);
@@ -63,21 +64,19 @@ void TestHotplug::debounce()
     QVERIFY(!debounce.isPending());
 }
 
-void TestHotplug::virtualPlugEventsReachTheNotifier()
+void TestHotplug::virtualPlugEventsBecomeTheBackendsNotice()
 {
     ManualClock clock;
     VirtualHidBackend hid(&clock);
     VirtualKeyboard* kb = hid.addWiredKeyboard();
-    USBNotifier notifier;
-    hid.setPlugListener([&notifier](bool) { notifier.reportDeviceChange(); });
-    QSignalSpy plugged(&notifier, &USBNotifier::devicePluggined);
+    QSignalSpy plugged(&hid, &HidBackend::devicePluggined);
 
     kb->unplug();
     kb->unplug(); // already gone: no second notice
     QCOMPARE(plugged.count(), 1);
     kb->replug();
     QCOMPARE(plugged.count(), 2);
-    // From another thread the notice is queued to the notifier's.
+    // From another thread the notice is queued to the backend's.
     std::thread([kb] { kb->unplug(); }).join();
     QCOMPARE(plugged.count(), 2);
     QTRY_COMPARE(plugged.count(), 3);

@@ -49,7 +49,7 @@ class TestHubSettings : public QObject
 
     LanguageSwitch makeSwitch()
     {
-        LanguageSwitch language;
+        LanguageSwitch language(*platform);
         language.setTranslators(&appTranslator, &qtBaseTranslator, &qtTranslator);
         return language;
     }
@@ -58,7 +58,7 @@ private slots:
     void initTestCase()
     {
         QStandardPaths::setTestModeEnabled(true);
-        platform = FakePlatform::install();
+        platform = &FakePlatform::shared();
     }
     void init() { platform->reset(); }
 
@@ -141,7 +141,7 @@ private slots:
 
     void languageSwitchRetranslatesAndRepeats()
     {
-        FrameSystemInfo info;
+        FrameSystemInfo info(*platform);
         auto* box = info.findChild<QCheckBox*>("checkBox");
         QCOMPARE(box->text(), QString::fromUtf8(kAutostartText));
 
@@ -210,7 +210,7 @@ private slots:
         if (saved.isValid()) platform->values.insert("lastlang", saved);
 
         ManualClock clock;
-        MainWindow window(std::make_unique<VirtualHidBackend>(&clock), &clock);
+        MainWindow window(std::make_unique<VirtualHidBackend>(&clock), *platform, &clock);
         window.appTranslator = &appTranslator;
         window.selectSavedLanguage();
 
@@ -246,7 +246,7 @@ private slots:
         QFETCH(int, result);
         platform->autostart = before;
 
-        FrameSystemInfo info;
+        FrameSystemInfo info(*platform);
         // Every opening clears the machine-wide entry first, then reads the user's.
         QCOMPARE(platform->operationNames(),
                  QStringList({"clearMachineAutostart", "autostartProgram"}));

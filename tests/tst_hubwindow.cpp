@@ -53,8 +53,8 @@ struct Hub
         auto devices = std::make_unique<VirtualHidBackend>(&clock);
         backend = devices.get();
         if (setup) setup(*devices);
-        window =
-            std::make_unique<MainWindow>(std::move(devices), &clock, QStringLiteral(ORBE_BIN_DIR));
+        window = std::make_unique<MainWindow>(std::move(devices), FakePlatform::shared(), &clock,
+                                              QStringLiteral(ORBE_BIN_DIR));
     }
     ~Hub()
     {
@@ -161,7 +161,7 @@ private slots:
     {
         QStandardPaths::setTestModeEnabled(true);
         qRegisterMetaType<DeviceEnumInfo*>();
-        platform = FakePlatform::install();
+        platform = &FakePlatform::shared();
     }
     void init() { platform->reset(); }
 
@@ -584,7 +584,7 @@ private slots:
         auto devices = std::make_unique<VirtualHidBackend>(QtClock::shared());
         VirtualKeyboard* wired = devices->addWiredKeyboard();
         VirtualKeyboard* wireless = devices->addWirelessKeyboard(0x0EC3);
-        MainWindow window(std::move(devices), nullptr, QStringLiteral(ORBE_BIN_DIR));
+        MainWindow window(std::move(devices), *platform, nullptr, QStringLiteral(ORBE_BIN_DIR));
         auto names = [&] {
             QStringList shown;
             auto* page = window.findChild<QWidget*>("page00");

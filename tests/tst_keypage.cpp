@@ -30,7 +30,10 @@ struct ShellRig
     VirtualKeyboard* keyboard = hid.addWiredKeyboard();
     QTemporaryDir dir;
     ModuleMacroManager macros{dir.path()};
-    FrameDeviceHolder holder{&hid, &clock, macros, dir.filePath("work")};
+    ModuleGenKeymapping keys;
+    DialogDeviceConnect link{&hid, &clock, keys, dir.filePath("device.ini"),
+                             std::make_unique<InlineHidExecutor>()};
+    FrameDeviceHolder holder{&link, keys, macros, dir.filePath("work"), &clock};
 
     ShellRig()
     {

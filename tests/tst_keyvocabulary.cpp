@@ -112,11 +112,11 @@ private slots:
         QFETCH(KeyEntry, entry);
         QFETCH(bool, prefix);
         QFETCH(QString, text);
-        QCOMPARE(ModuleGenKeymapping::instance().KeyEntryText(entry, prefix), text);
+        QCOMPARE(ModuleGenKeymapping().KeyEntryText(entry, prefix), text);
     }
     void keyEntryTextFollowsLaterTranslation()
     {
-        const ModuleGenKeymapping& keymapping = ModuleGenKeymapping::instance();
+        const ModuleGenKeymapping keymapping;
         QCOMPARE(keymapping.KeyEntryText(entryOf("03002402"), true), "功能: 后退"); // built first
 
         MarkingTranslator translator;

@@ -547,7 +547,10 @@ private slots:
         VirtualHidBackend hid(&clock);
         ModuleMacroManager store(dir.path());
         store.FindMacro(1)->name = QStringLiteral("宏 B");
-        FrameDeviceHolder holder(&hid, &clock, store, dir.filePath("work"));
+        ModuleGenKeymapping keys;
+        DialogDeviceConnect conn(&hid, &clock, keys, dir.filePath("device.ini"),
+                                 std::make_unique<InlineHidExecutor>());
+        FrameDeviceHolder holder(&conn, keys, store, dir.filePath("work"), &clock);
         auto* page = qobject_cast<FrameMacro*>(holder.page(3));
         QVERIFY(page);
         QCOMPARE(page->items().size(), ModuleMacroManager::kFirstStartMacros);

@@ -389,16 +389,6 @@ private slots:
         QCOMPARE(events.at(1).at(0).value<quint8>(), quint8(3));
         QCOMPARE(list.size(), 2);
     }
-    void instanceIsTheFirst()
-    {
-        QTemporaryDir dir;
-        QVERIFY(ModuleMacroManager::instance() == nullptr);
-        auto* first = new ModuleMacroManager(dir.path());
-        ModuleMacroManager second(dir.path());
-        QCOMPARE(ModuleMacroManager::instance(), first);
-        delete first;
-        QVERIFY(ModuleMacroManager::instance() == nullptr);
-    }
 };
 
 void TestMacroStore::fileFormat()

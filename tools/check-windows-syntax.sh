@@ -47,7 +47,7 @@ check platform WindowsPlatform.cpp "${qt_flags[@]}"
 check platform Platform.cpp "${qt_flags[@]}"
 check platform PlatformLog.cpp "${qt_flags[@]}"
 # The hot-plug message filter and the per-user store of the hub.
-check hub USBNotifier.cpp "${qt_flags[@]}" -I"$here/src/device" -I"$here/src/platform"
+check device USBNotifier.cpp "${qt_flags[@]}" -I"$here/src/device" -I"$here/src/platform"
 check hub UserSettings.cpp "${qt_flags[@]}" -I"$here/src/device" -I"$here/src/platform"
 # The loopback capture as a Windows build without miniaudio.h makes it: silence.
 check audio LoopbackCapture.cpp "${qt_flags[@]}" -I"$here/src/device"

@@ -101,7 +101,10 @@ QString applicationStyleSheet()
 std::unique_ptr<HidBackend> createHidBackend(bool simulate)
 {
     if (simulate) return VirtualHidBackend::createDefaultSet(QtClock::shared(), SimulatorOptions{});
-    return std::make_unique<HidapiBackend>();
+    auto backend = std::make_unique<HidapiBackend>();
+    if (!backend->startWatching())
+        qCWarning(lcApp) << "no hot-plug notices: new devices show at the next periodic scan";
+    return backend;
 }
 
 bool takeSimulateFlag(int& argc, char** argv)
@@ -149,12 +152,6 @@ std::unique_ptr<HidBackend> traceTo(std::unique_ptr<HidBackend> hid, const QStri
         return hid;
     }
     return std::make_unique<TracedHidBackend>(std::move(hid), std::move(out));
-}
-
-VirtualHidBackend* virtualSetOf(HidBackend* hid)
-{
-    if (auto* traced = dynamic_cast<TracedHidBackend*>(hid)) hid = traced->innerBackend();
-    return dynamic_cast<VirtualHidBackend*>(hid);
 }
 
 } // namespace AppStartup

@@ -7,7 +7,6 @@
 
 class HidBackend;
 class QTranslator;
-class VirtualHidBackend;
 
 // The steps of the program's start-up that depend on nothing but their inputs, so that they
 // can be checked without starting the whole program.
@@ -44,7 +43,8 @@ void loadFonts(const QString& root);
 // The one application-wide style sheet.
 QString applicationStyleSheet();
 
-// The HID backend of the run: the virtual keyboards with --simulate, hidapi otherwise.
+// The HID backend of the run: the virtual keyboards with --simulate, hidapi otherwise, which
+// then watches the system's device notices. Call it with the application made.
 std::unique_ptr<HidBackend> createHidBackend(bool simulate);
 
 // Removes "--simulate" from argv (shifting the rest down) and tells whether it was there.
@@ -58,7 +58,5 @@ QString takeTraceOption(int& argc, char** argv);
 // returned in error.
 std::unique_ptr<HidBackend> traceTo(std::unique_ptr<HidBackend> hid, const QString& file,
                                     QString* error = nullptr);
-// The virtual devices behind hid, through a trace too; null for real hardware.
-VirtualHidBackend* virtualSetOf(HidBackend* hid);
 
 } // namespace AppStartup

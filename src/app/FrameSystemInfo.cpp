@@ -8,11 +8,10 @@
 #include <QCoreApplication>
 #include <QEvent>
 
-FrameSystemInfo::FrameSystemInfo(QWidget* parent)
-    : QFrame(parent), ui(std::make_unique<Ui::FrameSystemInfo>())
+FrameSystemInfo::FrameSystemInfo(Platform& system, QWidget* parent)
+    : QFrame(parent), platform(system), ui(std::make_unique<Ui::FrameSystemInfo>())
 {
     ui->setupUi(this);
-    Platform& platform = Platform::instance();
     // A machine-wide entry of an older install would start a second hub: it goes on every
     // opening (a system that refuses keeps it, silently).
     platform.clearMachineAutostart();
@@ -29,7 +28,6 @@ void FrameSystemInfo::finish(bool ok)
 {
     accepted = ok;
     if (ok) {
-        Platform& platform = Platform::instance();
         platform.clearAutostart();
         if (ui->checkBox->isChecked() &&
             !platform.setAutostart(QCoreApplication::applicationFilePath()))

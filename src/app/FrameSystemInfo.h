@@ -3,6 +3,8 @@
 #include <QFrame>
 #include <memory>
 
+class Platform;
+
 namespace Ui {
 class FrameSystemInfo;
 }
@@ -14,7 +16,8 @@ class FrameSystemInfo : public QFrame
     Q_OBJECT
 
 public:
-    explicit FrameSystemInfo(QWidget* parent = nullptr);
+    // platform must outlive the dialog.
+    explicit FrameSystemInfo(Platform& platform, QWidget* parent = nullptr);
     ~FrameSystemInfo() override;
 
     // 1 after OK, 0 after cancel or close (and before either): the mask's result.
@@ -30,6 +33,7 @@ protected:
 private:
     void finish(bool ok);
 
+    Platform& platform;
     std::unique_ptr<Ui::FrameSystemInfo> ui;
     bool accepted = false;
 };

@@ -5,6 +5,7 @@
 #include "FrameAbout.h"
 #include "FrameSystemInfo.h"
 #include "ModuleLangMenu.h"
+#include "Platform.h"
 #include "SuperLabel.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@
 #include <QTextStream>
 #include <QVBoxLayout>
 #include <array>
+#include <memory>
 
 namespace {
 
@@ -134,7 +136,8 @@ int main(int argc, char* argv[])
     about.setFixedSize(1124, 740);
     ok &= save(onGround(&about, "#FFFFFF"), out + "/about.png");
 
-    auto* info = new FrameSystemInfo;
+    const std::unique_ptr<Platform> platform = Platform::create();
+    auto* info = new FrameSystemInfo(*platform);
     ok &= save(onGround(info, "rgba(220, 220, 220, 0.96)", 40), out + "/system-info.png");
 
     ModuleLangMenu menu;

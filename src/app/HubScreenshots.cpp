@@ -194,8 +194,9 @@ int main(int argc, char* argv[])
     nameMacros(programDir.path());
 
     QTranslator appTranslator, qtBaseTranslator, qtTranslator;
-    Platform::instance().setUserValue(QStringLiteral("lastlang"), kEnglish);
-    MainWindow window(AppStartup::createHidBackend(true), nullptr, programDir.path());
+    const std::unique_ptr<Platform> platform = Platform::create();
+    platform->setUserValue(QStringLiteral("lastlang"), kEnglish);
+    MainWindow window(AppStartup::createHidBackend(true), *platform, nullptr, programDir.path());
     window.appTranslator = &appTranslator;
     window.qtBaseTranslator = &qtBaseTranslator;
     window.qtTranslator = &qtTranslator;

@@ -96,7 +96,7 @@ void openPicker(MainWindow& window)
     FrameKeySetting* page = window.deviceHolder()->keySetting();
     leaveKey(window, kBubbleKey);
     FrameDeviceHolder* holder = window.deviceHolder();
-    openedPicker = new DialogFNPicker(*holder->keyTables(), window.macros(), page);
+    openedPicker = new DialogFNPicker(holder->keyTables(), window.macros(), page);
     openedPicker->show();
     click(openedPicker->findChild<QWidget*>(QStringLiteral("pushButton_Hid224")));
     click(openedPicker->findChild<QWidget*>(QStringLiteral("pushButton_Hid225")));

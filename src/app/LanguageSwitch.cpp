@@ -41,7 +41,6 @@ bool LanguageSwitch::apply(int index, const QString& menuText)
     }
     const Language& language = kLanguages[index];
     const QString locale = QLatin1String(language.locale);
-    Platform& platform = Platform::instance();
 
     text = QLatin1Char(' ') + menuText;
     platform.setUserValue(QStringLiteral("lastlang"), index);

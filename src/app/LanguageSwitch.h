@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class Platform;
 class QTranslator;
 
 // What a choice in the language menu does (MainWindow::applyLanguage): saves the choice, loads
@@ -11,6 +12,9 @@ class QTranslator;
 class LanguageSwitch
 {
 public:
+    // platform must outlive the switch.
+    explicit LanguageSwitch(Platform& platform) : platform(platform) {}
+
     // The translators to load, owned by the caller; any of them may be null.
     void setTranslators(QTranslator* appTranslator, QTranslator* qtBaseTranslator,
                         QTranslator* qtTranslator);
@@ -30,6 +34,7 @@ public:
     QString localeTag() const { return tag; }
 
 private:
+    Platform& platform;
     QTranslator* app = nullptr;
     QTranslator* qtBase = nullptr;
     QTranslator* qt = nullptr;

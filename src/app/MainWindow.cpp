@@ -11,6 +11,8 @@
 #include "FrameDeviceShow.h"
 #include "FrameSystemInfo.h"
 #include "HidBackend.h"
+#include "HidExecutor.h"
+#include "InstallLayout.h"
 #include "LightWorkStore.h"
 #include "ModuleLangMenu.h"
 #include "ModuleMacroManager.h"
@@ -19,13 +21,12 @@
 #include "Platform.h"
 #include "ScanDebounce.h"
 #include "SingleInstance.h"
-#include "USBNotifier.h"
-#include "VirtualHidBackend.h"
 
 #include <QAction>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -101,9 +102,9 @@ QString instanceKey(bool tarnwickBuild)
 
 } // namespace
 
-MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, const QString& dir,
-                       QWidget* parent)
-    : QMainWindow(parent), clock(clk ? clk : QtClock::shared()),
+MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Platform& system, Clock* clk,
+                       const QString& dir, QWidget* parent)
+    : QMainWindow(parent), platform(system), clock(clk ? clk : QtClock::shared()),
       appDir(OrbeDeviceBase::rootDir(dir)), hid(std::move(backend)),
       registry(std::make_unique<DeviceRegistry>(hid.get(), clock, appDir)),
       poller(std::make_unique<BatteryPoller>(hid.get(), clock)),
@@ -111,13 +112,22 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, const QS
       // install layout keeps the user's files.
       macroStore(std::make_unique<ModuleMacroManager>(dir.isEmpty() ? QString() : appDir))
 {
+    // A manual clock steps virtual time on this thread: the HID calls then run inline too.
+    std::unique_ptr<HidExecutor> io;
+    if (clk) io = std::make_unique<InlineHidExecutor>();
+    // device.ini: beside the folder the window was given, or where the installed program keeps
+    // its settings.
+    const QString deviceIni = dir.isEmpty()
+                                  ? InstallLayout().settingsFile(QStringLiteral("device.ini"))
+                                  : appDir + QStringLiteral("/config/device.ini");
+    link = std::make_unique<DialogDeviceConnect>(hid.get(), clock, keys, deviceIni, std::move(io));
     FrameDeviceShow::setContext({.clock = clock, .poller = poller.get(), .appDir = appDir});
     registry->setTarnwickBuild(tarnwickBuild);
     registry->setWindowShown(false); // until shown: a hidden window doesn't scan
 
     // 1-3: the form, then the single-instance guard and its watch.
-    ui.setupUi(this, hid.get(), clock, *macroStore,
-               LightWorkStore::folderIn(dir.isEmpty() ? QString() : appDir));
+    ui.setupUi(this, link.get(), keys, *macroStore,
+               LightWorkStore::folderIn(dir.isEmpty() ? QString() : appDir), clock);
     claimSingleInstance();
 
     // 4-6: the frameless window and the card page.
@@ -158,21 +168,13 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Clock* clk, const QS
         },
         true);
 
-    // 13: hot-plug, debounced into one scan. Under --simulate the virtual devices report here.
-    USBNotifier* notifier = USBNotifier::instance(this);
+    // 13: hot-plug from the HID backend (the system's notices, or the virtual devices' plugs),
+    // debounced into one scan.
     debounce = new ScanDebounce(
         clock, [this] { enumThread->requestScan(); }, this);
-    connect(notifier, &USBNotifier::devicePluggined, debounce, &ScanDebounce::onDevicePluggined);
-    connect(notifier, &USBNotifier::devicePluggined, connection(),
+    connect(hid.get(), &HidBackend::devicePluggined, debounce, &ScanDebounce::onDevicePluggined);
+    connect(hid.get(), &HidBackend::devicePluggined, link.get(),
             &DialogDeviceConnect::onDevicePluggined);
-    if (auto* virtualSet = AppStartup::virtualSetOf(hid.get())) {
-        QPointer<USBNotifier> target(notifier);
-        virtualSet->setPlugListener([target](bool) {
-            if (target) target->reportDeviceChange();
-        });
-    } else if (!notifier->startWatching()) {
-        qCWarning(lcApp) << "no hot-plug notices: new devices show at the next periodic scan";
-    }
 
     // 15-16: tray, counts, the first page.
     createTray();
@@ -212,16 +214,11 @@ MainWindow::~MainWindow()
     // The thread before the registry; the pages and the connection before the backend.
     tearingDown = true;
     enumThread.reset();
-    if (auto* virtualSet = AppStartup::virtualSetOf(hid.get())) virtualSet->setPlugListener({});
+    disconnect(hid.get(), nullptr, this, nullptr);
     delete takeCentralWidget();
     poller.reset();
     FrameDeviceShow::setContext({});
     registry.reset();
-}
-
-DialogDeviceConnect* MainWindow::connection() const
-{
-    return ui.frameHold->connection();
 }
 
 void MainWindow::claimSingleInstance()
@@ -279,8 +276,7 @@ void MainWindow::createTray()
     connect(actionShow, &QAction::triggered, this, [this] {
         showNormal();
         raise();
-        Platform::instance().keepOnTopForAWhile(this, winId(), kShowFromTrayFromMs,
-                                                kShowFromTrayUntilMs);
+        platform.keepOnTopForAWhile(this, winId(), kShowFromTrayFromMs, kShowFromTrayUntilMs);
     });
     connect(actionHide, &QAction::triggered, this, [this] {
         hide();
@@ -310,7 +306,6 @@ void MainWindow::createTray()
 
 void MainWindow::resetSharedValues()
 {
-    Platform& platform = Platform::instance();
     for (const SharedValue& value : kStartValues)
         platform.setUserValue(QLatin1String(value.key), value.value);
 }
@@ -350,22 +345,20 @@ void MainWindow::watchEmptyList()
 
 void MainWindow::watchEscape()
 {
-    if (Platform::instance().keyState(Platform::KeyEscape) >= 0 || keyTesting) return;
+    if (platform.keyState(Platform::KeyEscape) >= 0 || keyTesting) return;
     qCDebug(lcApp) << "OrbeReturn 0";
-    Platform::instance().setUserValue(QStringLiteral("OrbeReturn"), 1);
+    platform.setUserValue(QStringLiteral("OrbeReturn"), 1);
     setPage(CardPage);
 }
 
 void MainWindow::watchLock()
 {
-    Platform& platform = Platform::instance();
     if (platform.isSessionLocked() && platform.millisecondsSinceInput() >= kLockedIdleMs)
         platform.setUserValue(QStringLiteral("OrbeReturn"), 1);
 }
 
 void MainWindow::watchReturn()
 {
-    Platform& platform = Platform::instance();
     const bool asked = platform.userValue(QStringLiteral("OrbeReturn")).toInt() != 0 ||
                        platform.userValue(QStringLiteral("TarnwickReturn")).toInt() != 0;
     if (!asked || !returnArmed) return;
@@ -502,7 +495,7 @@ void MainWindow::applyLanguage(int index, const QString& text)
 void MainWindow::selectSavedLanguage()
 {
     // No default on purpose: a first run comes up in language 0 whatever the system's locale.
-    langMenu->selectLanguage(Platform::instance().userValue(QStringLiteral("lastlang")).toInt());
+    langMenu->selectLanguage(platform.userValue(QStringLiteral("lastlang")).toInt());
 }
 
 void MainWindow::showLanguageMenu()
@@ -523,7 +516,7 @@ void MainWindow::openSystemInfo()
     mask.setStyleSheet(QLatin1String(kSystemInfoMaskStyle));
     auto* layout = new QVBoxLayout(&mask);
     // Made for this opening alone, without a parent of its own.
-    auto* info = new FrameSystemInfo();
+    auto* info = new FrameSystemInfo(platform);
     layout->addWidget(info, 0, Qt::AlignCenter);
     connect(info, &FrameSystemInfo::decided, &mask,
             [&mask](bool accepted) { accepted ? mask.accept() : mask.reject(); });

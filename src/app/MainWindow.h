@@ -3,6 +3,7 @@
 #include "DialogDeviceConsole.h"
 #include "LanguageSwitch.h"
 #include "MainWindowForm.h"
+#include "ModuleGenKeymapping.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -18,7 +19,9 @@ class DialogDeviceConnect;
 class HidBackend;
 class ModuleMacroManager;
 class ModuleLangMenu;
+class ModuleMacroManager;
 class OrbeDeviceEnum;
+class Platform;
 class QAction;
 class QDialog;
 class QSystemTrayIcon;
@@ -29,8 +32,8 @@ struct DeviceEnumInfo;
 
 // The hub's frameless window: the cards of the devices found, the page of a native keyboard,
 // the tray icon, and the timers that scan, watch for a second start and bring the user back to
-// the cards. It owns the discovery (registry and thread) and, through the device page shell,
-// the one connection.
+// the cards. It owns the discovery (registry and thread), the key tables, the macro store and
+// the one connection, and passes them down to the device page shell.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -44,11 +47,13 @@ public:
     // The stacked pages.
     enum Page { CardPage = 0, SiblingPage = 1, DevicePage = 2 };
 
-    // clock null means the real one; tests pass a manual clock. appDir holds "config/" and
-    // "images/"; empty means the folder the program ships them in. A second hub leaves in here
-    // with exit code 0, after asking the first to come forward.
-    explicit MainWindow(std::unique_ptr<HidBackend> hid, Clock* clock = nullptr,
-                        const QString& appDir = QString(), QWidget* parent = nullptr);
+    // hid is also the hot-plug source. platform must outlive the window. clock null means the
+    // real one; tests pass a manual clock, and then the connection runs its HID calls inline
+    // rather than on its I/O thread, so that virtual time stays deterministic. appDir holds
+    // "config/" and "images/"; empty means the folder the program ships them in. A second hub
+    // leaves in here with exit code 0, after asking the first to come forward.
+    MainWindow(std::unique_ptr<HidBackend> hid, Platform& platform, Clock* clock = nullptr,
+               const QString& appDir = QString(), QWidget* parent = nullptr);
     ~MainWindow() override;
 
     // Set by main(); the window reloads them when the language changes, it doesn't own them.
@@ -56,7 +61,7 @@ public:
     QTranslator* qtBaseTranslator = nullptr;
     QTranslator* qtTranslator = nullptr;
 
-    DialogDeviceConnect* connection() const;
+    DialogDeviceConnect* connection() const { return link.get(); }
     ModuleLangMenu* languageMenu() const { return langMenu; }
     DeviceRegistry* deviceRegistry() const { return registry.get(); }
     // The user's macros: in appDir's "macro" when an appDir was given, else in the folder of the
@@ -118,19 +123,23 @@ private:
     bool isNative(const DeviceEnumInfo& device) const;
     QString imagesDir() const;
 
+    Platform& platform;
     Clock* clock;
     QString appDir;
-    // Declared so that they go in reverse: the thread before the registry it runs, the poller
-    // and the registry before the HID backend they use.
+    // Declared so that they go in reverse: the thread before the registry it runs; the
+    // connection, the poller and the registry before the HID backend they use. The pages, which
+    // use the connection, the key tables and the macro store, go first of all.
     std::unique_ptr<HidBackend> hid;
     std::unique_ptr<DeviceRegistry> registry;
     std::unique_ptr<BatteryPoller> poller;
-    std::unique_ptr<SingleInstance> instanceGuard;
+    ModuleGenKeymapping keys;
     std::unique_ptr<ModuleMacroManager> macroStore;
+    std::unique_ptr<DialogDeviceConnect> link;
+    std::unique_ptr<SingleInstance> instanceGuard;
 
     MainWindowForm ui;
     ModuleLangMenu* langMenu = nullptr;
-    LanguageSwitch language;
+    LanguageSwitch language{platform};
     std::unique_ptr<OrbeDeviceEnum> enumThread;
     bool tarnwickBuild = false; // the second brand; nothing sets it
     bool trayHidden = false;

@@ -57,11 +57,6 @@ int clampedRound(double value)
         qBound<double>(std::numeric_limits<int>::min(), rounded, std::numeric_limits<int>::max()));
 }
 
-bool isDown(int virtualKey)
-{
-    return Platform::instance().keyState(virtualKey) < 0;
-}
-
 } // namespace
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
@@ -165,8 +160,7 @@ bool MainWindow::event(QEvent* event)
     case QEvent::WindowActivate:
         pointerInside = true;
         if (!closing)
-            Platform::instance().keepOnTopForAWhile(this, winId(), kActivateTopFromMs,
-                                                    kActivateTopUntilMs);
+            platform.keepOnTopForAWhile(this, winId(), kActivateTopFromMs, kActivateTopUntilMs);
         break;
     case QEvent::LanguageChange:
         ui.retranslateUi(this);
@@ -175,7 +169,7 @@ bool MainWindow::event(QEvent* event)
     case QEvent::Show:
         raise();
         activateWindow();
-        if (trayHidden) Platform::instance().setUserValue(QStringLiteral("OrbeReturn"), 1);
+        if (trayHidden) platform.setUserValue(QStringLiteral("OrbeReturn"), 1);
         trayHidden = false;
         updateScanGate();
         break;
@@ -208,7 +202,9 @@ void MainWindow::countLogoClick()
     ++logoClicks;
     if (!logoClickTimer) logoClickTimer = clock->createTimer([this] { logoClicks = 0; }, true);
     logoClickTimer->start(kLogoClickWindowMs);
-    if (logoClicks < 2 || !isDown(Platform::KeyControl) || !isDown(Platform::KeyD)) return;
+    if (logoClicks < 2 || platform.keyState(Platform::KeyControl) >= 0 ||
+        platform.keyState(Platform::KeyD) >= 0)
+        return;
     if (!engineeringConsole) engineeringConsole = new DialogDeviceConsole(connection(), this);
     engineeringConsole->show();
     engineeringConsole->raise();
@@ -293,7 +289,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    Platform& platform = Platform::instance();
     for (const char* name : kProcessesAtClose)
         platform.endProcess(QLatin1String(name));
     enumThread->stop();

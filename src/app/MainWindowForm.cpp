@@ -50,8 +50,9 @@ QPushButton* titleButton(QWidget* parent, const char* name, const char* icon)
 
 } // namespace
 
-void MainWindowForm::setupUi(QMainWindow* window, HidBackend* hid, Clock* clock,
-                             ModuleMacroManager& macros, const QString& worksFolder)
+void MainWindowForm::setupUi(QMainWindow* window, DialogDeviceConnect* connection,
+                             ModuleGenKeymapping& keys, ModuleMacroManager& macros,
+                             const QString& worksFolder, Clock* clock)
 {
     window->setObjectName(QStringLiteral("MainWindow"));
     centralwidget = new QWidget(window);
@@ -79,7 +80,7 @@ void MainWindowForm::setupUi(QMainWindow* window, HidBackend* hid, Clock* clock,
     page02->setObjectName(QStringLiteral("page02"));
     auto* holdLayout = new QVBoxLayout(page02);
     holdLayout->setContentsMargins(0, 0, 0, 0);
-    frameHold = new FrameDeviceHolder(hid, clock, macros, worksFolder, page02);
+    frameHold = new FrameDeviceHolder(connection, keys, macros, worksFolder, clock, page02);
     frameHold->setObjectName(QStringLiteral("frameHold"));
     holdLayout->addWidget(frameHold);
     stackedWidget->addWidget(page02);

@@ -3,8 +3,9 @@
 #include <QCoreApplication>
 
 class Clock;
+class DialogDeviceConnect;
 class FrameDeviceHolder;
-class HidBackend;
+class ModuleGenKeymapping;
 class ModuleMacroManager;
 class QFrame;
 class QHBoxLayout;
@@ -25,10 +26,10 @@ class MainWindowForm
 public:
     static constexpr int kTitleHeight = 80;
 
-    // hid and clock go to the device page shell, which makes the connection; the macro store to
-    // its macro page.
-    void setupUi(QMainWindow* window, HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
-                 const QString& worksFolder);
+    // The connection, the key tables, the macro store, the light works' folder and the clock of
+    // the pages' timers go to the device page shell.
+    void setupUi(QMainWindow* window, DialogDeviceConnect* connection, ModuleGenKeymapping& keys,
+                 ModuleMacroManager& macros, const QString& worksFolder, Clock* clock);
     void retranslateUi(QMainWindow* window);
 
     QWidget* centralwidget = nullptr;

@@ -55,7 +55,7 @@ int main(int argc, char* argv[])
 
     std::unique_ptr<HidBackend> hid = AppStartup::createHidBackend(simulate);
     if (!traceFile.isEmpty()) hid = AppStartup::traceTo(std::move(hid), traceFile);
-    MainWindow window(std::move(hid));
+    MainWindow window(std::move(hid), *platform);
     window.appTranslator = &appTranslator;
     window.qtBaseTranslator = &qtBaseTranslator;
     window.qtTranslator = &qtTranslator;

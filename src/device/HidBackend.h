@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QObject>
 #include <QString>
 #include <cstddef>
 #include <cstdint>
@@ -27,11 +28,16 @@ public:
 };
 
 // Every HID call of the product goes through this interface. The methods mirror the hidapi
-// functions one to one, with the same results: a count of bytes, or -1 on failure.
-class HidBackend
+// functions one to one, with the same results: a count of bytes, or -1 on failure. The backend
+// is also the hot-plug source: devicePluggined comes whenever a device came or went, from the
+// system's notices (hidapi) or the virtual devices' plugs alike. The calls may come from any
+// thread; the signal comes on the backend's.
+class HidBackend : public QObject
 {
+    Q_OBJECT
+
 public:
-    virtual ~HidBackend() = default;
+    ~HidBackend() override = default;
 
     // hid_enumerate + hid_free_enumeration; vid or pid 0 match any.
     virtual QList<HidDeviceInfo> enumerate(quint16 vendorId, quint16 productId) = 0;
@@ -46,4 +52,12 @@ public:
     // hid_read: blocks or not as set with setNonblocking.
     virtual int read(HidHandle* handle, quint8* data, size_t length) = 0;
     virtual int readTimeout(HidHandle* handle, quint8* data, size_t length, int milliseconds) = 0;
+
+    // Any thread: a device came or went. devicePluggined follows on the backend's thread, at
+    // once when called there.
+    void reportDeviceChange();
+
+signals:
+    // Arrival, removal and other changes alike, as the system's notice tells no more.
+    void devicePluggined(bool plugged);
 };

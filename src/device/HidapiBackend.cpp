@@ -1,6 +1,7 @@
 #include "HidapiBackend.h"
 
 #include "DeviceLog.h"
+#include "USBNotifier.h"
 
 #include <hidapi.h>
 
@@ -33,7 +34,21 @@ HidapiBackend::HidapiBackend()
 
 HidapiBackend::~HidapiBackend()
 {
+    delete notifier;
     hid_exit();
+}
+
+bool HidapiBackend::startWatching()
+{
+    if (notifier) return true;
+    auto* watcher = new USBNotifier(this);
+    if (!watcher->startWatching()) {
+        delete watcher;
+        return false;
+    }
+    notifier = watcher;
+    connect(notifier, &USBNotifier::devicePluggined, this, &HidBackend::devicePluggined);
+    return true;
 }
 
 QList<HidDeviceInfo> HidapiBackend::enumerate(quint16 vendorId, quint16 productId)

@@ -8,6 +8,7 @@
 TracingHidBackend::TracingHidBackend(HidBackend* in, QIODevice* out, Clock* clk)
     : inner(in), clock(clk), start(clk->elapsedMs()), stream(out)
 {
+    connect(inner, &HidBackend::devicePluggined, this, &HidBackend::devicePluggined);
 }
 
 QString TracingHidBackend::line(bool toDevice, const char* kind, const quint8* data, size_t length)

@@ -9,10 +9,7 @@
 #include "FrameMagic.h"
 #include "FrameMain.h"
 #include "HubLog.h"
-#include "InstallLayout.h"
 #include "LinearFixing1.h"
-#include "ModuleGenKeymapping.h"
-#include "ModuleMacroManager.h"
 #include "SuperLabel.h"
 
 #include <QButtonGroup>
@@ -77,17 +74,15 @@ QString picture(const NavigationEntry& entry, int state)
 
 } // namespace
 
-FrameDeviceHolder::FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
-                                     const QString& worksFolder, QWidget* parent)
-    : QFrame(parent), keys(std::make_unique<ModuleGenKeymapping>()),
-      device(new DialogDeviceConnect(hid, clock, *keys,
-                                     InstallLayout().settingsFile(QStringLiteral("device.ini")),
-                                     nullptr, this))
+FrameDeviceHolder::FrameDeviceHolder(DialogDeviceConnect* connection,
+                                     ModuleGenKeymapping& keyTables, ModuleMacroManager& macroStore,
+                                     const QString& worksFolder, Clock* clock, QWidget* parent)
+    : QFrame(parent), device(connection), keys(keyTables), macros(macroStore)
 {
     setObjectName(QStringLiteral("FrameDeviceHolder"));
     buildForm();
 
-    auto* keySetting = new FrameKeySetting(device, *keys, macros, clock, this);
+    auto* keySetting = new FrameKeySetting(device, keys, macros, clock, this);
     frameKeySetting = keySetting;
     frameMain = new FrameMain(device, this, clock);
     auto* magic = new FrameMagic(this);

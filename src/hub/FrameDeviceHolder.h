@@ -11,7 +11,6 @@ class FrameKeySetting;
 class FrameLight;
 class FrameMain;
 class ModuleGenKeymapping;
-class HidBackend;
 class ModuleMacroManager;
 class QButtonGroup;
 class QLabel;
@@ -20,7 +19,8 @@ class SuperLabel;
 struct DeviceEnumInfo;
 
 // The page of a native keyboard: a navigation column, a toolbar with the device's name, badges
-// and onboard profiles, and six pages. It makes the program's one connection.
+// and onboard profiles, and six pages. It is given the program's one connection, the key tables
+// and the macro store, and hands them to its pages.
 class FrameDeviceHolder : public QFrame
 {
     Q_OBJECT
@@ -30,20 +30,22 @@ public:
     static constexpr QSize kPageSize{1124, 740};
     static constexpr int kLayerCount = 4;
 
-    // hid and clock must outlive the shell; they serve the connection. The macro store too: the
-    // macro page edits it. worksFolder holds the light page's works library.
-    FrameDeviceHolder(HidBackend* hid, Clock* clock, ModuleMacroManager& macros,
-                      const QString& worksFolder, QWidget* parent = nullptr);
+    // device, keys, macros and clock (the pages' timers) must outlive the shell. worksFolder
+    // holds the light page's works library.
+    FrameDeviceHolder(DialogDeviceConnect* device, ModuleGenKeymapping& keys,
+                      ModuleMacroManager& macros, const QString& worksFolder, Clock* clock,
+                      QWidget* parent = nullptr);
     ~FrameDeviceHolder() override;
 
     DialogDeviceConnect* connection() const { return device; }
+    ModuleGenKeymapping& keyTables() const { return keys; }
+    ModuleMacroManager& macroStore() const { return macros; }
     DeviceEnumInfo* currentDevice() const { return current; }
     // The page shown, 0 to 5.
     int currentPage() const { return pageIndex; }
     QWidget* page(int index) const { return pages.value(index); }
     FrameKeySetting* keySetting() const { return frameKeySetting; }
     FrameLight* light() const { return frameLight; }
-    const ModuleGenKeymapping* keyTables() const { return keys.get(); }
 
     void setDevice(DeviceEnumInfo* device, const QString& deviceImage, const QString& name);
     // Ignored while the connection reads the keyboard; 6 and 7 leave the shell.
@@ -68,9 +70,9 @@ private:
     void onLayerClicked(int id);
     void openCalibration();
 
-    // The key tables, which the connection and the pages are handed.
-    std::unique_ptr<ModuleGenKeymapping> keys;
     DialogDeviceConnect* device;
+    ModuleGenKeymapping& keys;
+    ModuleMacroManager& macros;
     DeviceEnumInfo* current = nullptr;
     QList<SuperLabel*> labels;
     QList<QWidget*> pages;

@@ -20,7 +20,7 @@ public:
     ScanDebounce(Clock* clock, std::function<void()> request, QObject* parent = nullptr);
     ~ScanDebounce() override;
 
-    // Connect USBNotifier::devicePluggined here.
+    // Connect the HID backend's devicePluggined here.
     void onDevicePluggined(bool plugged);
     bool isPending() const;
 

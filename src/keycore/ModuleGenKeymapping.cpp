@@ -274,12 +274,6 @@ ModuleGenKeymapping::ModuleGenKeymapping()
 {
 }
 
-const ModuleGenKeymapping& ModuleGenKeymapping::instance()
-{
-    static const ModuleGenKeymapping keymapping;
-    return keymapping;
-}
-
 std::optional<KeyFunctionRow> ModuleGenKeymapping::FunctionEntryAt(quint8 row) const
 {
     return rowAt(functionKeyList, row);

@@ -17,16 +17,15 @@ struct KeyFunctionRow
     QString name() const;
 };
 
-// The key functions a key can be given and the one way from a KeyEntry to a text. One object
-// serves the whole program (instance()); its texts are translated in this class's context.
+// The key functions a key can be given and the one way from a KeyEntry to a text. The window
+// makes one and passes it to the connection and the pages; its texts are translated in this
+// class's context.
 class ModuleGenKeymapping
 {
     Q_DECLARE_TR_FUNCTIONS(ModuleGenKeymapping)
 
 public:
     ModuleGenKeymapping();
-
-    static const ModuleGenKeymapping& instance();
 
     // The pickers address rows by number.
     const QList<KeyFunctionRow>& FunctionKeyList() const { return functionKeyList; }

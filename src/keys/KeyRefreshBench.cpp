@@ -43,7 +43,6 @@ int main(int argc, char* argv[])
     }
     clock.advanceUntil([&] { return link.isIdle(); }, 600000, 5);
 
-    ModuleGenKeymapping keys;
     ModuleMacroManager macros(dir.path());
     FrameKeySetting page(&link, keys, macros, &clock);
     std::vector<std::unique_ptr<ModuleKeyboard>> others;

@@ -11,8 +11,6 @@
 
 namespace {
 
-ModuleMacroManager* s_instance = nullptr;
-
 constexpr char kFolderName[] = "macro";
 constexpr char kHeaderFile[] = "macroheader.txt";
 constexpr char kEventFilePattern[] = "macroevent%1.txt";
@@ -89,8 +87,6 @@ void appendActionRecord(QByteArray& out, const MacroEvent& action, quint16 delay
 
 ModuleMacroManager::ModuleMacroManager(const QString& baseDir, QObject* parent) : QObject(parent)
 {
-    if (!s_instance) s_instance = this;
-
     // Beside the program when it can be written there, else in the user's data folder.
     const QString folder = baseDir.isEmpty()
                                ? InstallLayout().userFilesDir(QLatin1String(kFolderName))
@@ -104,12 +100,6 @@ ModuleMacroManager::ModuleMacroManager(const QString& baseDir, QObject* parent) 
 ModuleMacroManager::~ModuleMacroManager()
 {
     qDeleteAll(m_macros);
-    if (s_instance == this) s_instance = nullptr;
-}
-
-ModuleMacroManager* ModuleMacroManager::instance()
-{
-    return s_instance;
 }
 
 QString ModuleMacroManager::headerPath() const

@@ -9,8 +9,8 @@
 
 // The user's macros, in memory and in the "macro" folder beside the program (installed, or where
 // that folder can't be written, in the user's data folder): one header file with the list, one
-// event file per macro id. The first instance made is the one that instance() returns. GUI
-// thread only.
+// event file per macro id. The window makes one and passes it to the pages and the connection.
+// GUI thread only.
 class ModuleMacroManager : public QObject
 {
     Q_OBJECT
@@ -24,8 +24,6 @@ public:
     // Creates the folder if needed and loads the header.
     explicit ModuleMacroManager(const QString& baseDir = QString(), QObject* parent = nullptr);
     ~ModuleMacroManager() override;
-
-    static ModuleMacroManager* instance();
 
     // In the order of the page's list and of the header file.
     const QList<Macro*>& macros() const { return m_macros; }

@@ -124,12 +124,7 @@ public:
     // forward without staying in front of everything. The timers die with context.
     void keepOnTopForAWhile(QObject* context, WindowId window, int fromMs, int untilMs);
 
-    // The implementation for the system the program was built for.
+    // The implementation for the system the program was built for. main() makes one and
+    // passes it to the window; tests pass a recording fake.
     static std::unique_ptr<Platform> create();
-
-    // The process-wide platform: the system's own, created on first use, unless one was
-    // put in with replaceInstance.
-    static Platform& instance();
-    // Puts another platform in (tests use the fake); returns the one it replaces.
-    static std::unique_ptr<Platform> replaceInstance(std::unique_ptr<Platform> platform);
 };

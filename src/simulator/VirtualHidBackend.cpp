@@ -41,12 +41,6 @@ VirtualHidBackend::createDefaultSet(Clock* clock, const SimulatorOptions& option
     return backend;
 }
 
-void VirtualHidBackend::setPlugListener(std::function<void(bool)> listener)
-{
-    std::lock_guard guard(lock);
-    plugListener = std::move(listener);
-}
-
 void VirtualHidBackend::adopt(std::unique_ptr<VirtualDevice> device)
 {
     device->plugListener = &plugListener;

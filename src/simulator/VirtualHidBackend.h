@@ -45,10 +45,6 @@ public:
         return raw;
     }
 
-    // Called with true or false whenever a device is replugged or unplugged, on the thread
-    // that did it, outside the lock. --simulate hands this to the hot-plug notifier.
-    void setPlugListener(std::function<void(bool plugged)> listener);
-
     // The set --simulate shows: one wired, one wireless keyboard, and the devices of every
     // family and route the discovery pass knows (VirtualDiscoverySet).
     static std::unique_ptr<VirtualHidBackend> createDefaultSet(Clock* clock,
@@ -82,5 +78,6 @@ private:
     std::vector<std::unique_ptr<VirtualDevice>> devices;
     std::vector<VirtualKeyboard*> keyboards;
     std::vector<std::unique_ptr<VirtualHandle>> handles;
-    std::function<void(bool)> plugListener;
+    // Each device tells of its plugs here (outside the lock); it becomes devicePluggined.
+    std::function<void(bool)> plugListener = [this](bool) { reportDeviceChange(); };
 };

@@ -6,9 +6,9 @@
 class HidrawMonitor;
 
 // Turns the system's device-change notices into devicePluggined(true): WM_DEVICECHANGE through
-// the native event filter on Windows, a udev monitor on the hidraw subsystem on Linux, and the
-// virtual devices' plug and unplug under --simulate. Arrival, removal and other changes all look
-// alike; a ScanDebounce makes one scan of a burst.
+// the native event filter on Windows, a udev monitor on the hidraw subsystem on Linux. Arrival,
+// removal and other changes all look alike. The hidapi backend owns one and passes its notices
+// on as its own; a ScanDebounce makes one scan of a burst.
 class USBNotifier : public QObject, public QAbstractNativeEventFilter
 {
     Q_OBJECT
@@ -17,9 +17,6 @@ public:
     explicit USBNotifier(QObject* parent = nullptr);
     ~USBNotifier() override;
 
-    // The process's one notifier, made with parent on first use.
-    static USBNotifier* instance(QObject* parent = nullptr);
-
     // Windows: WM_DEVICECHANGE, whatever its wParam, is logged, signalled and stopped here.
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
@@ -27,9 +24,6 @@ public:
     // the udev monitor (Linux). False when nothing could be watched; scans then come only from
     // the periodic timer.
     bool startWatching();
-
-    // Any thread: a device came or went (the virtual backend reports here).
-    void reportDeviceChange();
 
 signals:
     void devicePluggined(bool plugged);

@@ -1,9 +1,8 @@
 #include "USBNotifier.h"
 
-#include "HubLog.h"
+#include "DeviceLog.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -19,13 +18,6 @@ USBNotifier::~USBNotifier()
         QCoreApplication::instance()->removeNativeEventFilter(this);
 }
 
-USBNotifier* USBNotifier::instance(QObject* parent)
-{
-    static QPointer<USBNotifier> notifier;
-    if (!notifier) notifier = new USBNotifier(parent);
-    return notifier;
-}
-
 bool USBNotifier::nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result)
 {
     Q_UNUSED(eventType);
@@ -33,8 +25,8 @@ bool USBNotifier::nativeEventFilter(const QByteArray& eventType, void* message, 
 #ifdef Q_OS_WIN
     const MSG* msg = static_cast<const MSG*>(message);
     if (msg && msg->message == WM_DEVICECHANGE) {
-        qCDebug(lcHub) << "USBNotifier::nativeEventFilter: " << quint64(msg->wParam)
-                       << qint64(msg->lParam);
+        qCDebug(lcDevice) << "USBNotifier::nativeEventFilter: " << quint64(msg->wParam)
+                          << qint64(msg->lParam);
         emit devicePluggined(true);
         return true;
     }
@@ -62,16 +54,9 @@ bool USBNotifier::startWatching()
     monitor = hidraw;
     connect(monitor, &HidrawMonitor::changed, this,
             [this](const QString& action, const QString& node) {
-                qCDebug(lcHub) << "hidraw" << action << node;
+                qCDebug(lcDevice) << "hidraw" << action << node;
                 emit devicePluggined(true);
             });
     return true;
 #endif
-}
-
-void USBNotifier::reportDeviceChange()
-{
-    // Direct on the notifier's thread, queued from any other.
-    QMetaObject::invokeMethod(
-        this, [this] { emit devicePluggined(true); }, Qt::AutoConnection);
 }

@@ -1,6 +1,6 @@
 #include "HidrawMonitor.h"
 
-#include "HubLog.h"
+#include "DeviceLog.h"
 
 #include <QSocketNotifier>
 #include <libudev.h>
@@ -19,14 +19,14 @@ bool HidrawMonitor::start()
     if (notifier) return true;
     context = udev_new();
     if (!context) {
-        qCWarning(lcHub) << "udev is not available: hot-plug is not watched";
+        qCWarning(lcDevice) << "udev is not available: hot-plug is not watched";
         return false;
     }
     monitor = udev_monitor_new_from_netlink(context, "udev");
     if (!monitor ||
         udev_monitor_filter_add_match_subsystem_devtype(monitor, "hidraw", nullptr) < 0 ||
         udev_monitor_enable_receiving(monitor) < 0) {
-        qCWarning(lcHub) << "cannot listen to udev: hot-plug is not watched";
+        qCWarning(lcDevice) << "cannot listen to udev: hot-plug is not watched";
         return false;
     }
     notifier = new QSocketNotifier(udev_monitor_get_fd(monitor), QSocketNotifier::Read, this);
