@@ -1,6 +1,7 @@
 #pragma once
 
-// A connection on the scripted backend in virtual time, for the protocol tests.
+// A connection on the scripted backend in virtual time, for the protocol tests. Its HID calls
+// run inline, so that virtual time alone decides what happens when.
 
 #include "ConsoleModel.h"
 #include "DialogDeviceConnect.h"
@@ -18,8 +19,8 @@ struct ConnectionRig
     FakeHidBackend hid{&clock};
     QTemporaryDir dir;
     ModuleGenKeymapping keys;
-    std::unique_ptr<DialogDeviceConnect> conn =
-        std::make_unique<DialogDeviceConnect>(&hid, &clock, keys, iniPath());
+    std::unique_ptr<DialogDeviceConnect> conn = std::make_unique<DialogDeviceConnect>(
+        &hid, &clock, keys, iniPath(), std::make_unique<InlineHidExecutor>());
 
     QString iniPath() const { return dir.filePath("config/device.ini"); }
     // Connects to a wired keyboard; the first frames go out as the clock moves on.

@@ -26,8 +26,9 @@ struct SimRig
     explicit SimRig(bool wireless = false)
         : keyboard(wireless ? hid.addWirelessKeyboard() : hid.addWiredKeyboard())
     {
-        conn =
-            std::make_unique<DialogDeviceConnect>(&hid, &clock, keys, dir.filePath("device.ini"));
+        // Inline HID calls: virtual time alone decides what happens when.
+        conn = std::make_unique<DialogDeviceConnect>(&hid, &clock, keys, dir.filePath("device.ini"),
+                                                     std::make_unique<InlineHidExecutor>());
         QObject::connect(conn.get(), &DialogDeviceConnect::onUpdataLayer, conn.get(),
                          [this](int layer) { conn->DoSetProfile(quint8(layer)); });
         if (wireless)

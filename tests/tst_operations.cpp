@@ -399,7 +399,8 @@ private slots:
         QCOMPARE(rig.conn->GetUserPicture(), map.left(384));
     }
 
-    // The same road once on real timers: connect, first chain, profile, read sequence.
+    // The same road once on real timers and the connection's own I/O thread: connect, first
+    // chain, profile, read sequence.
     void connectToReadDoneInRealTime()
     {
         QtClock clock;

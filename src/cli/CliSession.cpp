@@ -127,22 +127,24 @@ bool CliSession::connectKeyboard()
         return false;
     }
 
-    if (options.wireless) {
-        device->DoConnectDevice(vid, pid, true, ids, QString::fromUtf8(wirelessPath));
-        opened = device->isConnected();
-    } else {
-        device->console().setVidText(QString::asprintf("%04X", vid));
-        device->console().setPidText(QString::asprintf("%04X", pid));
-        opened = false;
-        device->connectStep();
-    }
-    if (!opened) {
+    // The handles open on the connection's I/O thread: whether they did is known when the
+    // connect step is done.
+    connect(device.get(), &DialogDeviceConnect::connectStepDone, this, [this, ids] {
+        if (options.wireless) opened = device->isConnected();
+        if (opened) return;
         finish(NotOpened,
                QStringLiteral("keyboard %1 is present but could not be opened: on Linux a "
                               "permission problem, install packaging/linux/70-orbehub.rules "
                               "(see README, Troubleshooting)")
                    .arg(ids));
-        return false;
+    });
+    if (options.wireless) {
+        device->DoConnectDevice(vid, pid, true, ids, QString::fromUtf8(wirelessPath));
+    } else {
+        device->console().setVidText(QString::asprintf("%04X", vid));
+        device->console().setPidText(QString::asprintf("%04X", pid));
+        opened = false;
+        device->connectStep();
     }
     return true;
 }

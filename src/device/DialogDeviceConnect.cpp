@@ -4,7 +4,7 @@
 #include "ConnectSteps.h"
 #include "ConsoleModel.h"
 #include "DeviceLink.h"
-#include "HidExecutor.h"
+#include "HidIoThread.h"
 #include "KeyOps.h"
 #include "MagnetismOps.h"
 #include "ReadSequence.h"
@@ -18,7 +18,7 @@ DialogDeviceConnect::DialogDeviceConnect(HidBackend* hid, Clock* clock,
                                          const ModuleGenKeymapping& keys,
                                          const QString& settingsPath,
                                          std::unique_ptr<HidExecutor> executor, QObject* parent)
-    : QObject(parent), io(executor ? std::move(executor) : std::make_unique<InlineHidExecutor>()),
+    : QObject(parent), io(executor ? std::move(executor) : std::make_unique<HidIoThread>()),
       consoleModel(std::make_unique<ConsoleModel>(clock, settingsPath)),
       link(std::make_unique<DeviceLink>(*hid, *clock, *io))
 {
