@@ -95,6 +95,9 @@ private slots:
         QTest::newRow("key entry")
             << key << "02000400" << true << quint64(0) << QByteArray::fromHex("02000400");
         QTest::newRow("key entry short") << key << "020004" << false << quint64(0) << QByteArray();
+        QTest::newRow("key entry empty") << key << "" << false << quint64(0) << QByteArray();
+        QTest::newRow("no bytes") << int(ArgKind::Bytes) << "" << true << quint64(0)
+                                  << QByteArray();
         QTest::newRow("colour") << colour << "#6329B6" << true << quint64(0x6329B6)
                                 << QByteArray::fromHex("6329B6");
         QTest::newRow("colour without #")
@@ -145,14 +148,26 @@ private slots:
         QVERIFY2(out.contains("version text: " + versionText + "\n"), qPrintable(out));
     }
 
+    void dumpPrintsTheWholeCache_data()
+    {
+        QTest::addColumn<QString>("version");
+        QTest::newRow("0x300") << "0x300";
+        QTest::newRow("0x500") << "0x500";
+    }
     void dumpPrintsTheWholeCache()
     {
-        const Run r = run({"--simulate", "--timing", "dump"});
+        QFETCH(QString, version);
+        const Run r = run({"--simulate", "--sim-version", version, "--timing", "dump"});
         QCOMPARE(r.status, 0);
         QJsonParseError error;
         const QJsonObject cache = QJsonDocument::fromJson(r.out, &error).object();
         QCOMPARE(error.error, QJsonParseError::NoError);
-        QCOMPARE(cache.value("firmwareVersion").toInt(), 0x300);
+        // The read sequence set the version field to 0 and the scale to 10 until the next
+        // connect; the identity block and the label keep what the keyboard said.
+        QCOMPARE(cache.value("firmwareVersion").toInt(), 0);
+        QCOMPARE(cache.value("travelScale").toInt(), 10);
+        QCOMPARE(cache.value("identityVersion").toInt(), version.toInt(nullptr, 16));
+        QVERIFY(cache.value("versionText").toString().startsWith("Ver:" + version));
         QCOMPARE(cache.value("deviceId").toInt(), 0xAF7);
         QCOMPARE(cache.value("currentProfile").toInt(), 0);
         QCOMPARE(cache.value("keyMatrix").toArray().at(0).toArray().size(), 128);
@@ -208,12 +223,14 @@ private slots:
 
     void callChainsOperationsAndDumpsWhatTheyWrote()
     {
+        // An empty macro is a valid transfer too: its blob is the repeat count alone.
         const Run r = run(QString("--simulate call DoSetKey 0x04 00E00400 1 1 -- DoSetMagnetism 0 "
                                   "0x04 300 1 -- DoSetSleepTime 10 2 -- DoSetKbOption 3 4 -- "
                                   "DoSetMacro 0x05 2 0 7 04B20432 -- DoWriteUserPic 1 %1 -- "
-                                  "DoReadAll")
+                                  "DoReadAll -- DoSetMacro 0x06 1 0 9")
                               .arg(QString("AB").repeated(392))
-                              .split(' '));
+                              .split(' ') +
+                          QStringList{QString()});
         QCOMPARE(r.status, 0);
         const QJsonObject cache = QJsonDocument::fromJson(r.out).object();
         // Read back from the keyboard by the last read sequence.
@@ -230,6 +247,8 @@ private slots:
         const QJsonObject keyboard = cache.value("virtualKeyboard").toObject();
         QVERIFY(
             keyboard.value("macros").toObject().value("7").toString().startsWith("020004B20432"));
+        QCOMPARE(keyboard.value("macros").toObject().value("9").toString(),
+                 "0100" + QString("00").repeated(54));
         QCOMPARE(keyboard.value("pictures").toObject().keys(), QStringList{"1"});
         QVERIFY(keyboard.value("pictures").toObject().value("1").toString().startsWith("ABABAB"));
     }

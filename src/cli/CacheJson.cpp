@@ -70,9 +70,11 @@ QJsonObject fromConnection(const DialogDeviceConnect& d)
 {
     QJsonObject o;
     o.insert(QStringLiteral("deviceId"), qint64(d.GetDeviceId()));
-    // The connection's own version field reads 0 once a read sequence began (the protocol
-    // doesn't ask again); the identity block keeps what the keyboard said.
-    o.insert(QStringLiteral("firmwareVersion"), reportedFirmwareVersion(d));
+    // The connection's version field as the pages see it: 0 once a read sequence began, as the
+    // protocol doesn't ask again until the next connect. The identity block keeps what the
+    // keyboard said.
+    o.insert(QStringLiteral("firmwareVersion"), d.GetFirmwareVersion());
+    o.insert(QStringLiteral("identityVersion"), reportedFirmwareVersion(d));
     o.insert(QStringLiteral("versionText"), d.console().versionText());
     o.insert(QStringLiteral("versionAtLeast300"), d.VersionAtLeast300());
     o.insert(QStringLiteral("versionAtLeast400"), d.VersionAtLeast400());

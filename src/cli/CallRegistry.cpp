@@ -101,9 +101,10 @@ constexpr CallOperation kOperations[] = {
     {"DoReadUserPic", {A::U8}, [](D& d, const CallArgs& a) { d.DoReadUserPic(u8(a[0])); }},
 };
 
+// Whole bytes of hex digits; none at all is an empty byte string (an empty macro is one).
 bool parseHex(const QString& text, QByteArray* bytes)
 {
-    static const QRegularExpression hex(QStringLiteral("^(?:[0-9A-Fa-f]{2})+$"));
+    static const QRegularExpression hex(QStringLiteral("^(?:[0-9A-Fa-f]{2})*$"));
     if (!hex.match(text).hasMatch()) return false;
     *bytes = QByteArray::fromHex(text.toLatin1());
     return true;
