@@ -25,6 +25,28 @@ bool takeNumber(const QStringList& args, int* i, quint64 max, quint64* number, Q
     return true;
 }
 
+constexpr quint64 kLargestLatencyMs = 1000;
+
+// "N" or "MIN-MAX", milliseconds.
+bool takeRange(const QStringList& args, int* i, int* low, int* high, QString* error)
+{
+    QString text;
+    if (!takeValue(args, i, &text, error)) return false;
+    const QStringList parts = text.split(QLatin1Char('-'));
+    quint64 a = 0;
+    quint64 b = 0;
+    if (parts.size() > 2 || !CallRegistry::parseNumber(parts.first(), kLargestLatencyMs, &a) ||
+        !CallRegistry::parseNumber(parts.last(), kLargestLatencyMs, &b) || b < a) {
+        *error = QStringLiteral("%1: \"%2\" is not N or MIN-MAX milliseconds up to %3")
+                     .arg(args.at(*i - 1), text)
+                     .arg(kLargestLatencyMs);
+        return false;
+    }
+    *low = int(a);
+    *high = int(b);
+    return true;
+}
+
 } // namespace
 
 bool CliOptions::parse(const QStringList& args, CliOptions* o, QString* error)
@@ -48,6 +70,8 @@ bool CliOptions::parse(const QStringList& args, CliOptions* o, QString* error)
         } else if (a == QLatin1String("--sim-version")) {
             if (!takeNumber(args, &i, 0xFFFF, &n, error)) return false;
             o->simFirmwareVersion = quint16(n);
+        } else if (a == QLatin1String("--sim-latency")) {
+            if (!takeRange(args, &i, &o->simLatencyMinMs, &o->simLatencyMaxMs, error)) return false;
         } else if (a == QLatin1String("--sim-id")) {
             if (!takeNumber(args, &i, 0xFFFFFFFF, &n, error)) return false;
             o->simDeviceId = quint32(n);
@@ -114,6 +138,9 @@ QString CliOptions::usage()
         "                     usage 0202): the virtual wireless keyboard with --simulate\n"
         "  --sim-version N    firmware version of the virtual keyboards (default 0x300)\n"
         "  --sim-id N         device id of the virtual keyboards (default 0xAF7)\n"
+        "  --sim-latency N|MIN-MAX\n"
+        "                     milliseconds each read on the virtual wireless link takes\n"
+        "                     (default 4-30; 0 for none)\n"
         "  --sim-silent       add a virtual keyboard that never answers its identity request\n"
         "                     (list then stops after 30 s with status 5)\n"
         "  --vid N, --pid N   the keyboard's USB ids (default: lastVID/lastPID of device.ini,\n"

@@ -19,6 +19,9 @@ struct CliOptions
     bool simSilent = false; // the virtual keyboard that never answers 8F
     quint32 simDeviceId = 0x0AF7;
     quint16 simFirmwareVersion = 0x0300;
+    // What each read on the virtual wireless link takes, in milliseconds.
+    int simLatencyMinMs = 4;
+    int simLatencyMaxMs = 30;
     std::optional<quint16> vid;
     std::optional<quint16> pid;
     QString traceFile;

@@ -70,6 +70,8 @@ bool CliSession::openBackend()
         sim.deviceId = options.simDeviceId;
         sim.firmwareVersion = options.simFirmwareVersion;
         sim.silentKeyboard = options.simSilent;
+        sim.wirelessLatencyMinMs = options.simLatencyMinMs;
+        sim.wirelessLatencyMaxMs = options.simLatencyMaxMs;
         auto virtualSet = VirtualHidBackend::createDefaultSet(clock, sim);
         VirtualKeyboard* keyboard =
             options.wireless ? virtualSet->wirelessKeyboard() : virtualSet->wiredKeyboard();

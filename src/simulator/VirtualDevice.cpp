@@ -45,6 +45,11 @@ bool VirtualDevice::isPlugged() const
     return plugged;
 }
 
+int VirtualDevice::readDelayMs(int)
+{
+    return 0;
+}
+
 int VirtualDevice::sendFeatureReport(int, const quint8*, size_t)
 {
     return -1;

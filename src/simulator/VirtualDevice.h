@@ -37,6 +37,9 @@ protected:
     // What a read finds now: the byte count, or 0 when nothing is there. The backend waits out
     // a read's timeout itself, without its lock.
     virtual int read(int interfaceIndex, quint8* data, size_t length);
+    // How long the next blocking read on the interface takes before it looks, as a radio link
+    // does; 0 for a cable. The backend waits it out without its lock.
+    virtual int readDelayMs(int interfaceIndex);
     // Transfers that were in the air are lost with the cable.
     virtual void onUnplugged() {}
 

@@ -36,7 +36,8 @@ VirtualHidBackend::createDefaultSet(Clock* clock, const SimulatorOptions& option
 {
     auto backend = std::make_unique<VirtualHidBackend>(clock);
     backend->addWiredKeyboard(options.deviceId, options.firmwareVersion);
-    backend->addWirelessKeyboard(options.deviceId, options.firmwareVersion);
+    backend->addWirelessKeyboard(options.deviceId, options.firmwareVersion)
+        ->setLinkLatency(options.wirelessLatencyMinMs, options.wirelessLatencyMaxMs);
     VirtualDiscoverySet::addTo(*backend, options);
     return backend;
 }
@@ -197,9 +198,21 @@ int VirtualHidBackend::readTimeout(HidHandle* handle, quint8* data, size_t lengt
     std::unique_lock guard(lock);
     VirtualHandle* h = liveHandle(handle);
     if (!h) return -1;
+    int waitMs = milliseconds < 0 ? kBlockingReadWaitMs : milliseconds;
+    // A radio link takes its time before there is anything to look at.
+    if (const int delay =
+            waitMs > 0 ? std::min(h->device->readDelayMs(h->interfaceIndex), waitMs) : 0;
+        delay > 0) {
+        guard.unlock();
+        clock->sleepMs(delay);
+        waitMs -= delay;
+        guard.lock();
+        h = liveHandle(handle);
+        if (!h) return -1;
+    }
     const int result = h->device->read(h->interfaceIndex, data, length);
-    if (result != 0 || milliseconds == 0) return result;
+    if (result != 0 || waitMs <= 0) return result;
     guard.unlock();
-    clock->sleepMs(milliseconds < 0 ? kBlockingReadWaitMs : milliseconds);
+    clock->sleepMs(waitMs);
     return 0;
 }

@@ -19,6 +19,10 @@ struct SimulatorOptions
     // Adds a keyboard that never answers the identity request: every discovery pass waits
     // on it for as long as it is plugged in.
     bool silentKeyboard = false;
+    // How long the wireless keyboard's link takes to hand over a report, in milliseconds: each
+    // read waits a time between these two, as a 2.4 GHz link does.
+    int wirelessLatencyMinMs = 4;
+    int wirelessLatencyMaxMs = 30;
 };
 
 // A HID backend whose devices are virtual. Every call takes one lock, so the discovery thread

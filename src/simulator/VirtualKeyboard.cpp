@@ -116,6 +116,22 @@ void VirtualKeyboard::staleReportNext()
     stalePending = true;
 }
 
+void VirtualKeyboard::setLinkLatency(int minMs, int maxMs)
+{
+    std::lock_guard guard(lock);
+    latencyMinMs = std::max(0, minMs);
+    latencyMaxMs = std::max(latencyMinMs, maxMs);
+}
+
+int VirtualKeyboard::readDelayMs(int interfaceIndex)
+{
+    if (!wireless || !isCommandInterface(interfaceIndex) || latencyMaxMs == 0) return 0;
+    // A small linear congruential step: spread over the range, the same on every run.
+    latencySeed = latencySeed * 1103515245u + 12345u;
+    const int spread = latencyMaxMs - latencyMinMs + 1;
+    return latencyMinMs + int((latencySeed >> 16) % quint32(spread));
+}
+
 void VirtualKeyboard::onUnplugged()
 {
     replyQueue.clear();

@@ -44,6 +44,9 @@ public:
     void shortNextReply(int length);
     // Wireless: the next read brings a stale 06 77 report, the read after it the reply.
     void staleReportNext();
+    // Wireless: every blocking read on the link takes between min and max milliseconds before
+    // it looks for a report (a deterministic spread, the same on every run). 0, 0 for none.
+    void setLinkLatency(int minMs, int maxMs);
 
     // The charge the F7 status feature report gives (reply byte 2, with byte 6 = 1 for a live
     // link). Only the wireless keyboard answers it; the hub's cards poll it for the battery.
@@ -59,6 +62,7 @@ protected:
     int getFeatureReport(int interfaceIndex, quint8* data, size_t length) override;
     int write(int interfaceIndex, const quint8* data, size_t length) override;
     int read(int interfaceIndex, quint8* data, size_t length) override;
+    int readDelayMs(int interfaceIndex) override;
     void onUnplugged() override;
 
 private:
@@ -81,5 +85,8 @@ private:
     int dropCount = 0;
     std::optional<int> shortLength;
     bool stalePending = false;
+    int latencyMinMs = 0;
+    int latencyMaxMs = 0;
+    quint32 latencySeed = 1;
     quint8 battery = 88;
 };
