@@ -1,10 +1,11 @@
 #pragma once
 
 // A connection on the virtual keyboard in virtual time, for the tests that check what reached
-// the firmware: the protocol's round trips and the pages.
+// the firmware: the protocol's round trips, the link's faults and the pages.
 
 #include "ConsoleModel.h"
 #include "DialogDeviceConnect.h"
+#include "MagnetTables.h"
 #include "ManualClock.h"
 #include "ModuleGenKeymapping.h"
 #include "VirtualHidBackend.h"
@@ -29,8 +30,12 @@ struct SimRig
         // Inline HID calls: virtual time alone decides what happens when.
         conn = std::make_unique<DialogDeviceConnect>(&hid, &clock, keys, dir.filePath("device.ini"),
                                                      std::make_unique<InlineHidExecutor>());
+        // As the hub does: the keyboard's profile presses its layer button, and plug notices
+        // reach the connection.
         QObject::connect(conn.get(), &DialogDeviceConnect::onUpdataLayer, conn.get(),
                          [this](int layer) { conn->DoSetProfile(quint8(layer)); });
+        QObject::connect(&hid, &HidBackend::devicePluggined, conn.get(),
+                         &DialogDeviceConnect::onDevicePluggined);
         if (wireless)
             conn->DoConnectDevice(keyboard->vendorId(), keyboard->productId(), true, "0AF7",
                                   QString::fromLatin1(keyboard->commandPath()));
@@ -48,6 +53,19 @@ struct SimRig
         return settle();
     }
     const NativeKeyboardModel& fw() const { return keyboard->model(); }
+
+    // The cache holds what the firmware holds: the key layers of its profile, the Fn layer and
+    // every magnetism table but the live sensor readings.
+    void compareCacheWithFirmware() const
+    {
+        for (int layer = 0; layer < DeviceCache::kKeyLayers; ++layer)
+            QCOMPARE(conn->GetKeyMatrix(layer), fw().keyMap(fw().profile(), layer));
+        QCOMPARE(conn->GetFnMatrix(0), fw().fnMap());
+        for (const MagnetTables::Table& t : MagnetTables::kTables)
+            if (t.number != MagnetTables::kSensorTable)
+                QCOMPARE(conn->GetMagnetTable(MagnetTables::indexOf(t.number)),
+                         fw().magnetTable(t.number));
+    }
 };
 
 // The frames of one command the firmware received since it last forgot them, each cut to n

@@ -363,9 +363,7 @@ private slots:
         const QByteArray cachedKeys = rig.conn->GetKeyMatrix(1);
         QVERIFY(rig.readAgain());
         QCOMPARE(rig.conn->GetKeyMatrix(1), cachedKeys);
-        for (int layer = 0; layer < 4; ++layer)
-            QCOMPARE(rig.conn->GetKeyMatrix(layer), fw.keyMap(0, layer));
-        QCOMPARE(rig.conn->GetFnMatrix(0), fw.fnMap());
+        rig.compareCacheWithFirmware();
         QCOMPARE(rig.conn->GetReportRate(), quint8(2));
         QCOMPARE(rig.conn->GetDebounce(), quint8(5));
         QCOMPARE(rig.conn->GetSleepTimes()[2], quint16(600));
@@ -373,10 +371,6 @@ private slots:
         QCOMPARE(rig.conn->GetMagnetism(0x00, posA), 300u);
         QCOMPARE(rig.conn->GetMagnetism(0xFB, posA), 0xFFu);
         QCOMPARE(rig.conn->GetKeyMode(0x05), 0x80u);
-        for (const MagnetTables::Table& t : MagnetTables::kTables)
-            if (t.number != 0xFE) // the live sensor table moves on its own
-                QCOMPARE(rig.conn->GetMagnetTable(MagnetTables::indexOf(t.number)),
-                         fw.magnetTable(t.number));
         const QByteArray led = rig.conn->GetLedParams(4);
         QCOMPARE(led.left(8), hex("87 04 03 02 07 00 80 FF"));
     }
