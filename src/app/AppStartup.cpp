@@ -18,7 +18,7 @@ namespace AppStartup {
 namespace {
 const QString kTranslationPrefix = QStringLiteral("ORBEStudio_");
 const QString kTranslationDir = QStringLiteral(":/i18n/");
-const QString kSimulateFlag = QStringLiteral("--simulate");
+constexpr const char* kSimulateFlag = "--simulate";
 const QString kTraceOption = QStringLiteral("--trace");
 
 // Keeps argv[0] and every argument that take() doesn't claim, in order; take() sees the index
@@ -109,9 +109,14 @@ std::unique_ptr<HidBackend> createHidBackend(bool simulate)
 
 bool takeSimulateFlag(int& argc, char** argv)
 {
+    return takeFlag(argc, argv, kSimulateFlag);
+}
+
+bool takeFlag(int& argc, char** argv, const char* flag)
+{
     bool found = false;
     filterArguments(argc, argv, [&](int& i) {
-        if (kSimulateFlag != QLatin1String(argv[i])) return false;
+        if (QLatin1String(flag) != QLatin1String(argv[i])) return false;
         found = true;
         return true;
     });

@@ -49,6 +49,8 @@ std::unique_ptr<HidBackend> createHidBackend(bool simulate);
 
 // Removes "--simulate" from argv (shifting the rest down) and tells whether it was there.
 bool takeSimulateFlag(int& argc, char** argv);
+// The same for any flag of ours.
+bool takeFlag(int& argc, char** argv, const char* flag);
 
 // Removes "--trace FILE" or "--trace=FILE" from argv and gives the file, empty when there is
 // none. A --trace without its file is dropped with a warning.

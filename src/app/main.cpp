@@ -4,6 +4,8 @@
 #include "InstallLayout.h"
 #include "MainWindow.h"
 #include "Platform.h"
+#include "StallWatchdog.h"
+#include "TimedHidBackend.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -17,6 +19,8 @@ int main(int argc, char* argv[])
     const bool simulate = AppStartup::takeSimulateFlag(argc, argv);
     // What the hub sends and gets, as orbehub-cli --trace writes it.
     const QString traceFile = AppStartup::takeTraceOption(argc, argv);
+    // How long the window's thread goes without events, printed at the end.
+    const bool watch = StallWatchdog::isRequested(argc, argv);
 
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
@@ -55,10 +59,24 @@ int main(int argc, char* argv[])
 
     std::unique_ptr<HidBackend> hid = AppStartup::createHidBackend(simulate);
     if (!traceFile.isEmpty()) hid = AppStartup::traceTo(std::move(hid), traceFile);
+    TimedHidBackend* timed = nullptr;
+    std::unique_ptr<StallWatchdog> watchdog;
+    if (watch) {
+        auto measured = std::make_unique<TimedHidBackend>(std::move(hid));
+        timed = measured.get();
+        hid = std::move(measured);
+        watchdog = std::make_unique<StallWatchdog>();
+        watchdog->restart();
+    }
+
     MainWindow window(std::move(hid), *platform);
     window.appTranslator = &appTranslator;
     window.qtBaseTranslator = &qtBaseTranslator;
     window.qtTranslator = &qtTranslator;
     window.show();
-    return app.exec();
+    const int status = app.exec();
+    if (timed)
+        qCInfo(lcApp).nospace() << "the longest HID call took " << timed->longest().ms << " ms ("
+                                << timed->longest().call << ")";
+    return status;
 }
