@@ -19,6 +19,7 @@
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QThread>
+#include <optional>
 
 namespace {
 
@@ -31,11 +32,11 @@ struct Rig
     DeviceRegistry registry{&hid, &clock, app.path()};
 
     bool pass() { return registry.enumerateDevices(); }
-    const DeviceEnumInfo* find(const QByteArray& path) const
+    std::optional<DeviceEnumInfo> find(const QByteArray& path) const
     {
-        for (const DeviceEnumInfo* r : registry.devices())
-            if (r->devicePath == QString::fromLatin1(path)) return r;
-        return nullptr;
+        for (const DeviceEnumInfo& r : registry.records())
+            if (r.devicePath == QString::fromLatin1(path)) return r;
+        return std::nullopt;
     }
 };
 
@@ -114,7 +115,7 @@ private slots:
             QVERIFY(rig.pass());
             QCOMPARE(identifyCount(unknown->model()), pass); // asked at every pass
         }
-        QVERIFY(rig.registry.devices().isEmpty());
+        QVERIFY(rig.registry.records().isEmpty());
         QVERIFY(empty->receivedCommands().contains(0xFC));
         QCOMPARE(ws->writeCount(), 0);
     }
@@ -132,7 +133,7 @@ private slots:
             return ++identifyRounds <= 3 ? QByteArray(64, '\0') : reply("8F");
         };
         QVERIFY(rig.registry.enumerateDevices());
-        QVERIFY(rig.registry.devices().isEmpty());
+        QVERIFY(rig.registry.records().isEmpty());
 
         QList<QByteArray> sent;
         QList<qint64> at;
@@ -198,7 +199,7 @@ private slots:
         QCOMPARE(first.bytes, QByteArray::fromHex("06558F00000000000070").leftJustified(66, '\0'));
         QCOMPARE(hid.log.at(1).kind, QStringLiteral("nonblock"));
         QCOMPARE(hid.log.at(1).bytes, QByteArray(1, '\0'));
-        QCOMPARE(rig.registry.devices().size(), listed ? 1 : 0);
+        QCOMPARE(rig.registry.records().size(), listed ? 1 : 0);
         // The handle stays open after the probe; the next pass replaces it.
         QCOMPARE(hid.openHandles(), 1);
         QVERIFY(rig.registry.enumerateDevices());
@@ -235,8 +236,9 @@ private slots:
         QVERIFY(rig.pass());
         kb->model().setDeviceId(0x0C01); // a mouse's id in the catalogue
         QVERIFY(rig.pass());
-        QCOMPARE(rig.registry.devices().size(), 1);
-        const DeviceEnumInfo* r = rig.find(kb->commandPath());
+        QCOMPARE(rig.registry.records().size(), 1);
+        const std::optional<DeviceEnumInfo> r = rig.find(kb->commandPath());
+        QVERIFY(r);
         QCOMPARE(r->deviceId, 0x0C01ull);
         QCOMPARE(r->displayName, QStringLiteral("ORBE HE75"));
         QCOMPARE(int(r->deviceType), 0);
@@ -246,36 +248,35 @@ private slots:
         Rig rig;
         VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
         QVERIFY(rig.pass());
-        const DeviceEnumInfo* r = rig.find(kb->commandPath());
-        const quint32 firstSeen = r->lastSeen;
+        auto online = [&] { return rig.find(kb->commandPath()).value_or(DeviceEnumInfo{}).online; };
+        const quint32 firstSeen = rig.find(kb->commandPath())->lastSeen;
         QCOMPARE(firstSeen, rig.registry.nowSeconds());
 
         // Seen but answering id 0: online until the sighting is 60 s old.
         kb->model().setDeviceId(0);
         rig.clock.advance(30000);
         QVERIFY(rig.pass());
-        QVERIFY(r->online);
-        QCOMPARE(r->lastSeen, firstSeen);
+        QVERIFY(online());
+        QCOMPARE(rig.find(kb->commandPath())->lastSeen, firstSeen);
         rig.clock.advance(31000);
         QVERIFY(rig.pass());
-        QVERIFY(!r->online);
+        QVERIFY(!online());
 
         // Answering again brings it back.
         kb->model().setDeviceId(0x0AF7);
         QVERIFY(rig.pass());
-        QVERIFY(r->online);
+        QVERIFY(online());
         QCOMPARE(rig.registry.onlineCount(), 1);
 
         // Gone from the machine: offline at the next pass.
         kb->unplug();
         QVERIFY(rig.pass());
-        QVERIFY(!r->online);
+        QVERIFY(!online());
         QCOMPARE(rig.registry.onlineCount(), 0);
 
-        // The scan button empties the list; the record itself stays readable.
+        // The scan button empties the list.
         rig.registry.clear();
-        QVERIFY(rig.registry.devices().isEmpty());
-        QCOMPARE(r->displayName, QStringLiteral("ORBE HE75"));
+        QVERIFY(rig.registry.records().isEmpty());
     }
     void lostCurrentDeviceRaisesReturn()
     {
@@ -283,8 +284,8 @@ private slots:
         VirtualKeyboard* current = rig.hid.addWiredKeyboard();
         VirtualKeyboard* other = rig.hid.addWirelessKeyboard();
         QVERIFY(rig.pass());
-        rig.registry.setCurrentDevice(rig.registry.devices().first());
-        QCOMPARE(rig.registry.current()->devicePath, QString::fromLatin1(current->commandPath()));
+        rig.registry.setCurrentDevice(rig.registry.records().first().devicePath);
+        QCOMPARE(rig.registry.current(), QString::fromLatin1(current->commandPath()));
         auto settings = UserSettings::open(false);
         settings->setValue(UserSettings::kReturnKey, 0);
         settings->sync();
@@ -326,8 +327,8 @@ private slots:
         auto* ws = rig.hid.add<VirtualWsDevice>(VirtualWsDevice::Identity{}, "sim:ws");
         QVERIFY(rig.pass());
         QCOMPARE(identifyCount(kb->model()), wiredProbes);
-        QCOMPARE(rig.find(ws->path()) != nullptr, wsFound);
-        QCOMPARE(rig.find(kb->commandPath()) != nullptr, wiredProbes > 0);
+        QCOMPARE(rig.find(ws->path()).has_value(), wsFound);
+        QCOMPARE(rig.find(kb->commandPath()).has_value(), wiredProbes > 0);
     }
     void gate_data()
     {
@@ -366,15 +367,23 @@ private slots:
         rig.hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0x0EC3u, "sim:rx");
         QObject mainSide;
         QList<QThread*> deliveredOn;
+        QList<DeviceEnumInfo> delivered;
         connect(
             &rig.registry, &DeviceRegistry::oEnumDeiceDone, &mainSide,
-            [&] { deliveredOn.append(QThread::currentThread()); }, Qt::QueuedConnection);
+            [&](const QList<DeviceEnumInfo>& snapshot) {
+                deliveredOn.append(QThread::currentThread());
+                delivered = snapshot;
+            },
+            Qt::QueuedConnection);
 
         rig.thread.requestScan();
         QVERIFY(rig.clock.runUntil([&] { return rig.passes == 1; }, 60000));
         QTRY_COMPARE(deliveredOn.size(), 1);
         QCOMPARE(deliveredOn.first(), QThread::currentThread());
-        QCOMPARE(rig.registry.devices().size(), 2);
+        // The records come over with the signal, as copies keyed by path.
+        QCOMPARE(delivered.size(), 2);
+        QCOMPARE(delivered.first().devicePath, QString::fromLatin1(kb->commandPath()));
+        QCOMPARE(rig.registry.records().size(), 2);
 
         // A request while a pass runs gives one more pass after it.
         rig.thread.requestScan();
@@ -417,9 +426,8 @@ private slots:
         QVERIFY(!rig.clock.runUntil([&] { return rig.passes > 0; }, 5000));
         silent->unplug();
         QVERIFY(rig.clock.runUntil([&] { return rig.passes == 1; }, 60000));
-        QCOMPARE(rig.registry.devices().size(), 1);
-        QCOMPARE(rig.registry.devices().first()->devicePath,
-                 QString::fromLatin1(kb->commandPath()));
+        QCOMPARE(rig.registry.records().size(), 1);
+        QCOMPARE(rig.registry.records().first().devicePath, QString::fromLatin1(kb->commandPath()));
     }
 
     // The one pass in real time, over every family and route of the --simulate set: the tool's list

@@ -102,19 +102,21 @@ struct Hub
     {
         registry()->addDevice(vid, pid, id, path, path, connection, DeviceEnumInfo::CloudFamily);
     }
-    DeviceEnumInfo* record(const QString& path) const
+    DeviceEnumInfo record(const QString& path) const
     {
-        for (DeviceEnumInfo* r : registry()->devices())
-            if (r->devicePath == path) return r;
-        return nullptr;
+        for (const DeviceEnumInfo& r : registry()->records())
+            if (r.devicePath == path) return r;
+        return {};
     }
+    // What a discovery pass hands the window: the registry's records, by value.
+    void refresh() { window->refreshCards(registry()->records()); }
 
     // One wired keyboard of this id, on the first card.
     VirtualKeyboard* showKeyboard(quint32 id = 0x0AF7)
     {
         VirtualKeyboard* keyboard = backend->addWiredKeyboard(id);
         sight(id, QString::fromUtf8(keyboard->commandPath()));
-        window->refreshCards();
+        refresh();
         return keyboard;
     }
     // The same, its card clicked and the keyboard read whole; the frames so far forgotten.
@@ -128,11 +130,7 @@ struct Hub
     }
 
     // Clicks the card of a position; readDone() runs until the connection has read the keyboard.
-    void clickCard(int index)
-    {
-        FrameDeviceShow* card = FrameDeviceShow::acquire(index, nullptr);
-        QTest::mouseClick(card, Qt::LeftButton);
-    }
+    void clickCard(int index) { QTest::mouseClick(window->card(index), Qt::LeftButton); }
     bool readDone()
     {
         return runUntil([&] { return link()->isConnected() && link()->isIdle(); }, 30000);
@@ -160,7 +158,6 @@ private slots:
     void initTestCase()
     {
         QStandardPaths::setTestModeEnabled(true);
-        qRegisterMetaType<DeviceEnumInfo*>();
         platform = &FakePlatform::shared();
     }
     void init() { platform->reset(); }
@@ -194,10 +191,11 @@ private slots:
         Hub hub;
         for (const QString& path : sightings)
             hub.sight(ids.value(path), path);
-        hub.window->refreshCards();
-        for (const QString& path : offline)
-            hub.record(path)->online = false;
-        hub.window->refreshCards();
+        hub.refresh();
+        QList<DeviceEnumInfo> snapshot = hub.registry()->records();
+        for (DeviceEnumInfo& record : snapshot)
+            record.online = !offline.contains(record.devicePath);
+        hub.window->refreshCards(snapshot);
 
         QCOMPARE(hub.cardNames(), names);
         QCOMPARE(hub.window->findChild<QLabel*>("labelInfo0")->text(),
@@ -209,11 +207,11 @@ private slots:
         Hub hub;
         for (int i = 0; i <= FrameDeviceShow::kPoolSize; ++i)
             hub.sight(0x0AF7, QStringLiteral("kb%1").arg(i));
-        hub.window->refreshCards();
+        hub.refresh();
 
         const QStringList names = hub.cardNames();
         QCOMPARE(names.size(), FrameDeviceShow::kPoolSize);
-        QCOMPARE(FrameDeviceShow::acquire(FrameDeviceShow::kPoolSize, hub.window.get()), nullptr);
+        QCOMPARE(hub.window->card(FrameDeviceShow::kPoolSize), nullptr);
         QCOMPARE(hub.window->findChild<QLabel*>("labelInfo0")->text(), "我的设备(257)");
     }
 
@@ -259,18 +257,15 @@ private slots:
         QFETCH(int, width);
 
         QWidget page;
-        FrameDeviceShow::setContext(
-            {.clock = nullptr, .poller = nullptr, .appDir = QStringLiteral(ORBE_BIN_DIR)});
-        FrameDeviceShow* card = FrameDeviceShow::acquire(0, &page);
+        FrameDeviceShow card({.clock = nullptr, .poller = nullptr, .appDir = ORBE_BIN_DIR}, &page);
         DeviceEnumInfo device;
         device.displayName = name;
         device.deviceType = quint8(type);
-        card->setDevice(&device);
+        card.setDevice(device);
 
-        QCOMPARE(card->deviceImage(), QStringLiteral(ORBE_BIN_DIR "/images/") + file);
-        QVERIFY(!QPixmap(card->deviceImage()).isNull());
-        if (width) QCOMPARE(card->width(), width);
-        FrameDeviceShow::setContext({});
+        QCOMPARE(card.deviceImage(), QStringLiteral(ORBE_BIN_DIR "/images/") + file);
+        QVERIFY(!QPixmap(card.deviceImage()).isNull());
+        if (width) QCOMPARE(card.width(), width);
     }
 
     void batteryBadges_data()
@@ -350,8 +345,8 @@ private slots:
         keyboard->setBattery(quint8(charge));
         const QString path = QString::fromUtf8(keyboard->commandPath());
         hub.sight(0x0AF7, path, DeviceEnumInfo::Bluetooth, 0x3151, 0x5030);
-        hub.window->refreshCards();
-        FrameDeviceShow* card = FrameDeviceShow::acquire(0, nullptr);
+        hub.refresh();
+        FrameDeviceShow* card = hub.window->card(0);
         QSignalSpy reports(card, &FrameDeviceShow::onReport);
 
         hub.clock.advance(FrameDeviceShow::kFirstReportMs - kStepMs);
@@ -360,7 +355,7 @@ private slots:
         QVERIFY(hub.runUntil([&] { return reports.size() == 1; }, 2000));
 
         const QString tip = QStringLiteral("剩余电量: %1%").arg(charge);
-        QCOMPARE(reports.at(0).at(0).value<DeviceEnumInfo*>(), hub.record(path));
+        QCOMPARE(reports.at(0).at(0).toString(), path);
         QCOMPARE(reports.at(0).at(1).toString(), ":/images/dev/batt-25.png");
         QCOMPARE(reports.at(0).at(2).toString(), ":/images/dev/ble.png");
         QCOMPARE(reports.at(0).at(3).toString(), tip);
@@ -389,14 +384,13 @@ private slots:
         ManualClock clock;
         VirtualHidBackend backend(&clock);
         BatteryPoller poller(&backend, &clock);
-        FrameDeviceShow::setContext({.clock = &clock, .poller = &poller, .appDir = {}});
         QWidget page;
-        FrameDeviceShow* card = FrameDeviceShow::acquire(0, &page);
+        auto* card = new FrameDeviceShow({.clock = &clock, .poller = &poller, .appDir = {}}, &page);
         DeviceEnumInfo device;
         device.family = quint8(family);
         device.connectionType = quint8(connection);
         device.devicePath = QStringLiteral("sim:none");
-        card->setDevice(&device);
+        card->setDevice(device);
         QSignalSpy spy(card, &FrameDeviceShow::onReport);
 
         card->report();
@@ -404,7 +398,6 @@ private slots:
         QCOMPARE(spy.size(), reports);
         QCOMPARE(card->findChild<QLabel*>("labelPower")->isHidden(), connection == 0);
         if (reports) QCOMPARE(spy.at(0).at(1).toString(), ":/images/dev/batt-low.png");
-        FrameDeviceShow::setContext({});
     }
 
     // ---- a click on a card
@@ -436,9 +429,9 @@ private slots:
             return;
         }
         QVERIFY(hub.runUntil([&] { return hub.page() == MainWindow::DevicePage; }, 100));
-        QCOMPARE(hub.holder()->currentDevice(), hub.record(path));
+        QCOMPARE(hub.holder()->currentDevice().devicePath, path);
         QCOMPARE(hub.holder()->findChild<QLabel*>("labelName")->text(),
-                 hub.record(path)->displayName);
+                 hub.record(path).displayName);
         QVERIFY(hub.readDone());
         // The keyboard told its profile; the page pressed that button, which read it whole.
         const int profile = keyboard->model().profile();
@@ -446,7 +439,7 @@ private slots:
                     ->findChild<QPushButton*>(QStringLiteral("pushButtonLayer%1").arg(profile))
                     ->isChecked());
         QVERIFY(!hub.link()->GetKeyMatrix(3).isEmpty());
-        QCOMPARE(hub.registry()->current(), hub.record(path));
+        QCOMPARE(hub.registry()->current(), path);
     }
 
     // While the connection reads the keyboard whole the navigation stays where it is.
@@ -557,7 +550,7 @@ private slots:
         Hub hub;
         for (int i = 0; i < cards; ++i)
             hub.sight(0x0AF7, QStringLiteral("kb%1").arg(i));
-        hub.window->refreshCards();
+        hub.refresh();
         QEvent enter(QEvent::Enter);
         QCoreApplication::sendEvent(
             hub.cardPage()->findChild<QScrollArea*>("scrollArea")->viewport(), &enter);
@@ -572,7 +565,7 @@ private slots:
         hub.clock.advance(200);
         QVERIFY(stack->isHidden()); // the start-up picture and "searching"
         hub.sight(0x0AF7, "kb");
-        hub.window->refreshCards();
+        hub.refresh();
         hub.clock.advance(200);
         QVERIFY(!stack->isHidden());
     }

@@ -244,7 +244,7 @@ int main(int argc, char* argv[])
             if (waited < kSettleMs) return;
             if (!save(window, out + QStringLiteral("/cards.png"))) app.exit(1);
             // The native keyboard on Bluetooth, the second card: its page shows the battery.
-            click(FrameDeviceShow::acquire(1, nullptr));
+            click(window.card(1));
             step = Step::Shell;
             return;
         case Step::Shell: {

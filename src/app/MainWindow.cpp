@@ -121,7 +121,6 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Platform& system, Cl
                                   ? InstallLayout().settingsFile(QStringLiteral("device.ini"))
                                   : appDir + QStringLiteral("/config/device.ini");
     link = std::make_unique<DialogDeviceConnect>(hid.get(), clock, keys, deviceIni, std::move(io));
-    FrameDeviceShow::setContext({.clock = clock, .poller = poller.get(), .appDir = appDir});
     registry->setTarnwickBuild(tarnwickBuild);
     registry->setWindowShown(false); // until shown: a hidden window doesn't scan
 
@@ -217,7 +216,6 @@ MainWindow::~MainWindow()
     disconnect(hid.get(), nullptr, this, nullptr);
     delete takeCentralWidget();
     poller.reset();
-    FrameDeviceShow::setContext({});
     registry.reset();
 }
 
@@ -379,8 +377,8 @@ void MainWindow::returnToCards()
     hostedFamily = -1;
     hostedDeviceId = 0;
     hostedDevicePath.clear();
-    currentDevice = nullptr;
-    registry->setCurrentDevice(nullptr);
+    currentDevicePath.clear();
+    registry->setCurrentDevice(QString());
     registry->setHostedWindow(false);
 }
 
@@ -395,6 +393,7 @@ void MainWindow::rescan()
     floatReturn->hide();
     setPage(CardPage);
     registry->clear();
+    devices.clear();
     while (QLayoutItem* item = ui.cardLayout->takeAt(0)) {
         if (QWidget* card = item->widget()) card->hide();
         delete item;
@@ -402,36 +401,45 @@ void MainWindow::rescan()
     enumThread->requestScan();
 }
 
-void MainWindow::refreshCards()
+FrameDeviceShow* MainWindow::acquireCard(int index)
 {
+    if (index < 0 || index >= FrameDeviceShow::kPoolSize) return nullptr;
+    while (cards.size() <= index) {
+        auto* card = new FrameDeviceShow({.clock = clock, .poller = poller.get(), .appDir = appDir},
+                                         ui.scrollAreaWidgetContents);
+        card->setScrollArea(ui.scrollArea);
+        connect(card, &FrameDeviceShow::onReport, ui.frameHold, &FrameDeviceHolder::showBattery);
+        connect(card, &FrameDeviceShow::onClicked, this, &MainWindow::openDevice);
+        cards.append(card);
+    }
+    return cards.at(index);
+}
+
+void MainWindow::refreshCards(const QList<DeviceEnumInfo>& snapshot)
+{
+    devices = snapshot;
     int index = 0;
-    for (DeviceEnumInfo* record : registry->devices()) {
-        if (!record->online) continue;
-        FrameDeviceShow* card = FrameDeviceShow::acquire(index, ui.scrollAreaWidgetContents);
+    for (const DeviceEnumInfo& record : std::as_const(devices)) {
+        if (!record.online) continue;
+        FrameDeviceShow* card = acquireCard(index);
         if (!card) {
-            qCDebug(lcApp) << "no card left for" << record->displayName;
+            qCDebug(lcApp) << "no card left for" << record.displayName;
             break;
         }
         ++index;
-        card->setScrollArea(ui.scrollArea);
         card->setDevice(record);
         card->show();
         if (ui.cardLayout->indexOf(card) < 0) ui.cardLayout->addWidget(card);
-        updateCounts();
-        if (!card->signalsConnected()) {
-            card->setSignalsConnected(true);
-            connect(card, &FrameDeviceShow::onReport, ui.frameHold,
-                    &FrameDeviceHolder::showBattery);
-            connect(card, &FrameDeviceShow::onClicked, this, &MainWindow::openDevice);
-        }
     }
     updateCounts();
 }
 
 void MainWindow::updateCounts()
 {
-    const int online = registry->onlineCount();
-    FrameDeviceShow::hideFrom(online);
+    const int online = int(std::count_if(devices.cbegin(), devices.cend(),
+                                         [](const DeviceEnumInfo& d) { return d.online; }));
+    for (int i = online; i < cards.size(); ++i)
+        cards.at(i)->hide();
     ui.labelInfo0->setText(tr("我的设备") + QStringLiteral("(%1)").arg(online));
     actionShow->setText(tr("显示窗口"));
     actionHide->setText(tr("隐藏窗口"));
@@ -461,27 +469,30 @@ bool MainWindow::isNative(const DeviceEnumInfo& device) const
            device.displayName.contains(QLatin1String(kNativeNameMark));
 }
 
-void MainWindow::openDevice(DeviceEnumInfo* device, const QString& deviceImage)
+void MainWindow::openDevice(const QString& devicePath, const QString& deviceImage)
 {
-    if (!device) return;
-    hostedFamily = device->family;
-    hostedDeviceId = device->deviceId;
-    hostedDevicePath = device->devicePath;
+    const auto found = std::find_if(devices.cbegin(), devices.cend(),
+                                    [&](const auto& d) { return d.devicePath == devicePath; });
+    if (devicePath.isEmpty() || found == devices.cend()) return;
+    const DeviceEnumInfo device = *found;
+    hostedFamily = device.family;
+    hostedDeviceId = device.deviceId;
+    hostedDevicePath = device.devicePath;
     langMenu->hide();
     language.setHostedFamily(hostedFamily);
-    if (device->family != DeviceEnumInfo::CloudFamily || !isNative(*device)) {
-        qCDebug(lcApp) << device->displayName << "is served by a sibling driver (family"
-                       << device->family << ")";
+    if (device.family != DeviceEnumInfo::CloudFamily || !isNative(device)) {
+        qCDebug(lcApp) << device.displayName << "is served by a sibling driver (family"
+                       << device.family << ")";
         return;
     }
-    connection()->DoConnectDevice(device->vendorId, device->productId,
-                                  device->connectionType == DeviceEnumInfo::Bluetooth,
-                                  device->vendorPath, device->devicePath);
+    connection()->DoConnectDevice(device.vendorId, device.productId,
+                                  device.connectionType == DeviceEnumInfo::Bluetooth,
+                                  device.vendorPath, device.devicePath);
     setPage(DevicePage);
-    ui.frameHold->setDevice(device, deviceImage, device->displayName);
+    ui.frameHold->setDevice(device, deviceImage, device.displayName);
     // Losing this device brings the cards back.
-    currentDevice = device;
-    registry->setCurrentDevice(device);
+    currentDevicePath = device.devicePath;
+    registry->setCurrentDevice(device.devicePath);
 }
 
 void MainWindow::applyLanguage(int index, const QString& text)

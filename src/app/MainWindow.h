@@ -15,6 +15,7 @@ class Clock;
 class ClockTimer;
 class DeviceRegistry;
 class DialogDeviceConnect;
+class FrameDeviceShow;
 
 class HidBackend;
 class ModuleMacroManager;
@@ -77,14 +78,19 @@ public:
     // The start-up choice: the saved "lastlang", language 0 when there is none.
     void selectSavedLanguage();
 
-    // One card per online device, in order of first sighting; run after every discovery pass.
-    void refreshCards();
+    // One card per online device of the snapshot, in order of first sighting; run with every
+    // discovery pass's snapshot. The window keeps the snapshot as its list of devices.
+    void refreshCards(const QList<DeviceEnumInfo>& snapshot);
+    // The devices as the last snapshot had them.
+    const QList<DeviceEnumInfo>& deviceList() const { return devices; }
+    // The pooled card of a position; null when it wasn't made yet.
+    FrameDeviceShow* card(int index) const { return cards.value(index); }
     // The device count in the title, the tray's texts and the language button.
     void updateCounts();
     // 1280 by 900 when narrow, else 1520 by 900, centred on the first screen.
     void setWindowMode(bool narrow);
     // A click on a card: a native keyboard opens in the device page.
-    void openDevice(DeviceEnumInfo* device, const QString& deviceImage);
+    void openDevice(const QString& devicePath, const QString& deviceImage);
     // Leaves whatever page is shown for the cards when the return flag is up.
     void watchReturn();
 
@@ -121,6 +127,8 @@ private:
     void setPage(int index);
     void updateScanGate();
     bool isNative(const DeviceEnumInfo& device) const;
+    // The card of a position, made on first use; null past the pool.
+    FrameDeviceShow* acquireCard(int index);
     QString imagesDir() const;
 
     Platform& platform;
@@ -156,7 +164,9 @@ private:
     int hostedFamily = -1;
     quint64 hostedDeviceId = 0;
     QString hostedDevicePath;
-    DeviceEnumInfo* currentDevice = nullptr;
+    QString currentDevicePath;
+    QList<DeviceEnumInfo> devices;
+    QList<FrameDeviceShow*> cards;
     QAction* actionShow = nullptr;
     QAction* actionHide = nullptr;
     QAction* actionQuit = nullptr;

@@ -5,8 +5,11 @@
 #include <QTimer>
 
 // Measures how long the window's thread went without processing events: a precise timer ticks
-// every millisecond, and a tick that comes late tells how long the thread was held. Off unless
-// the hub is started with --watchdog or ORBE_STALL_WATCHDOG=1 (and in the stall benchmark).
+// every millisecond, and a tick that comes late tells how long the thread was held. Beside that
+// wall time it keeps the thread's own processor time over the same gap: a gap with little of it
+// was a wait (a blocking call, or a machine too busy to run the thread), one with much of it was
+// work on the thread. Off unless the hub is started with --watchdog or ORBE_STALL_WATCHDOG=1
+// (and in the stall benchmark).
 class StallWatchdog : public QObject
 {
     Q_OBJECT
@@ -27,6 +30,8 @@ public:
     // ended (milliseconds since restart).
     double longestStallMs() const { return longest; }
     qint64 longestStallAtMs() const { return longestAt; }
+    // The most processor time the thread spent between two ticks, in milliseconds.
+    double longestBusyMs() const { return longestBusy; }
     int ticks() const { return tickCount; }
 
     // Whether the flag or the environment asks for the watch; takes the flag out of argv.
@@ -38,7 +43,9 @@ private:
     QTimer timer;
     QElapsedTimer clock;
     qint64 lastTickNs = 0;
+    qint64 lastCpuNs = 0;
     double longest = 0;
+    double longestBusy = 0;
     qint64 longestAt = 0;
     int tickCount = 0;
 };

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QMetaType>
 #include <QString>
 #include <QtGlobal>
 
-// The record of one discovered device. Created by the discovery pass, owned by the device
-// registry, held by pointer in cards and the device page.
+// The record of one discovered device. Created by the discovery pass and kept by the device
+// registry; the window, its cards and the device page get copies, and name a device by its
+// devicePath.
 struct DeviceEnumInfo
 {
     enum Family : quint8 { CloudFamily = 0, WsFamily = 1, ByFamily = 2, JmFamily = 3 };
@@ -25,3 +27,5 @@ struct DeviceEnumInfo
     QString vendorPath;   // a HID path, "null", "HitScreen" or the BY family's 12-digit text
     QString devicePath;   // the HID path; the record's key
 };
+
+Q_DECLARE_METATYPE(DeviceEnumInfo)

@@ -15,6 +15,8 @@ DeviceRegistry::DeviceRegistry(HidBackend* backend, Clock* registryClock, const 
       epochAtStart(QDateTime::currentSecsSinceEpoch() - registryClock->elapsedMs() / 1000),
       kept(backend)
 {
+    qRegisterMetaType<DeviceEnumInfo>();
+    qRegisterMetaType<QList<DeviceEnumInfo>>();
 }
 
 DeviceRegistry::~DeviceRegistry() = default;
@@ -40,7 +42,7 @@ bool DeviceRegistry::enumerateDevices(const std::function<bool()>& stop)
     const std::optional<QStringList> seen = EnumerationPass(*this, setup).run();
     if (seen) {
         age(*seen);
-        emit oEnumDeiceDone();
+        emit oEnumDeiceDone(records());
     } else {
         qCDebug(lcHub) << "pass stopped";
     }
@@ -71,31 +73,30 @@ void DeviceRegistry::addDevice(quint16 vendorId, quint16 productId, quint64 id,
 
     const quint32 now = nowSeconds();
     QMutexLocker lock(&mutex);
-    for (DeviceEnumInfo* record : std::as_const(list)) {
-        if (record->devicePath != devicePath) continue;
+    for (DeviceEnumInfo& record : list) {
+        if (record.devicePath != devicePath) continue;
         // Only the id and the sighting change: name, type and connection stay as first seen.
-        record->deviceId = id;
-        record->online = true;
-        record->lastSeen = now;
+        record.deviceId = id;
+        record.online = true;
+        record.lastSeen = now;
         return;
     }
-    auto record = std::make_unique<DeviceEnumInfo>();
-    record->deviceId = id;
-    record->family = quint8(family);
-    record->connectionType = quint8(connectionType & 0xFF);
-    record->deviceType = quint8(deviceType & 0xFF);
-    record->displayName = name;
-    record->vendorPath = vendorPath;
-    record->devicePath = devicePath;
-    record->online = true;
-    record->reserved = 0;
-    record->lastSeen = now;
-    record->vendorId = vendorId;
-    record->productId = productId;
+    DeviceEnumInfo record;
+    record.deviceId = id;
+    record.family = quint8(family);
+    record.connectionType = quint8(connectionType & 0xFF);
+    record.deviceType = quint8(deviceType & 0xFF);
+    record.displayName = name;
+    record.vendorPath = vendorPath;
+    record.devicePath = devicePath;
+    record.online = true;
+    record.reserved = 0;
+    record.lastSeen = now;
+    record.vendorId = vendorId;
+    record.productId = productId;
     qCDebug(lcHub).nospace() << "new device " << name << " family " << family << " connection "
-                             << record->connectionType << " at " << devicePath;
-    list.append(record.get());
-    storage.push_back(std::move(record));
+                             << record.connectionType << " at " << devicePath;
+    list.append(record);
 }
 
 void DeviceRegistry::age(const QStringList& seen)
@@ -105,15 +106,15 @@ void DeviceRegistry::age(const QStringList& seen)
     {
         QMutexLocker lock(&mutex);
         for (qsizetype i = list.size() - 1; i >= 0; --i) {
-            DeviceEnumInfo* record = list.at(i);
-            if (!seen.contains(record->devicePath)) {
-                if (record == currentDevice) {
-                    qCDebug(lcHub) << "Lost:" << record->displayName << "Set OrbeReturn 1";
+            DeviceEnumInfo& record = list[i];
+            if (!seen.contains(record.devicePath)) {
+                if (record.devicePath == currentPath) {
+                    qCDebug(lcHub) << "Lost:" << record.displayName << "Set OrbeReturn 1";
                     lostCurrent = true;
                 }
-                record->online = false;
+                record.online = false;
             }
-            if (now - qint64(record->lastSeen) > kOnlineSeconds) record->online = false;
+            if (now - qint64(record.lastSeen) > kOnlineSeconds) record.online = false;
         }
     }
     if (lostCurrent) raiseReturnFlag();
@@ -128,26 +129,28 @@ void DeviceRegistry::raiseReturnFlag()
         qCWarning(lcHub) << "could not write" << settings->fileName();
 }
 
-QList<DeviceEnumInfo*> DeviceRegistry::devices() const
+void DeviceRegistry::setCurrentDevice(const QString& devicePath)
 {
     QMutexLocker lock(&mutex);
-    return list;
+    currentPath = devicePath;
+}
+
+QString DeviceRegistry::current() const
+{
+    QMutexLocker lock(&mutex);
+    return currentPath;
 }
 
 QList<DeviceEnumInfo> DeviceRegistry::records() const
 {
     QMutexLocker lock(&mutex);
-    QList<DeviceEnumInfo> copies;
-    copies.reserve(list.size());
-    for (const DeviceEnumInfo* record : list)
-        copies.append(*record);
-    return copies;
+    return list; // implicitly shared: the pass's next write detaches its own list
 }
 
 int DeviceRegistry::onlineCount() const
 {
     QMutexLocker lock(&mutex);
-    return int(std::count_if(list.begin(), list.end(), [](auto* r) { return r->online; }));
+    return int(std::count_if(list.begin(), list.end(), [](const auto& r) { return r.online; }));
 }
 
 void DeviceRegistry::clear()

@@ -18,8 +18,8 @@ class HidBackend;
 
 // The list of discovered devices and the discovery pass that keeps it up to date. The main
 // window owns one and delegates to it; the pass runs on the OrbeDeviceEnum thread, everything
-// else on the main thread. The list is guarded by a lock; records are never freed before the
-// registry, so pointers held by cards stay valid even after clear().
+// else on the main thread. The list is guarded by a lock and only copies leave it: the window
+// gets a snapshot with every oEnumDeiceDone, and names a device by its path.
 class DeviceRegistry : public QObject
 {
     Q_OBJECT
@@ -51,16 +51,14 @@ public:
 
     void setTarnwickBuild(bool on) { tarnwickBuild = on; }
     bool isTarnwickBuild() const { return tarnwickBuild; }
-    // The record the open page shows; its loss sets "OrbeReturn" to 1.
-    void setCurrentDevice(DeviceEnumInfo* device) { currentDevice = device; }
-    DeviceEnumInfo* current() const { return currentDevice; }
+    // The path of the device the open page shows (empty: none); its loss sets "OrbeReturn" to 1.
+    void setCurrentDevice(const QString& devicePath);
+    QString current() const;
 
-    // ---- The list, for the main thread.
-    QList<DeviceEnumInfo*> devices() const;
-    // Copies taken under the lock, for readers that mustn't race the pass.
+    // ---- The list: copies taken under the lock, in the order of first sighting.
     QList<DeviceEnumInfo> records() const;
     int onlineCount() const;
-    // The scan button: empties the list. The records stay allocated.
+    // The scan button: empties the list.
     void clear();
 
     // Seconds since the epoch on the registry's clock.
@@ -69,8 +67,9 @@ public:
     int keptHandleCount() const { return kept.count(); }
 
 signals:
-    // Ends every pass that ran. Emitted on the enumeration thread: connect it queued.
-    void oEnumDeiceDone();
+    // Ends every pass that ran, with copies of the records as the pass left them. Emitted on
+    // the enumeration thread: connect it queued.
+    void oEnumDeiceDone(const QList<DeviceEnumInfo>& devices);
 
 private:
     void age(const QStringList& seen);
@@ -87,9 +86,8 @@ private:
     std::atomic<bool> windowShown{true};
     std::atomic<bool> hostedWindow{false};
     std::atomic<bool> tarnwickBuild{false};
-    std::atomic<DeviceEnumInfo*> currentDevice{nullptr};
 
     mutable QMutex mutex;
-    QList<DeviceEnumInfo*> list;
-    std::vector<std::unique_ptr<DeviceEnumInfo>> storage;
+    QList<DeviceEnumInfo> list;
+    QString currentPath;
 };

@@ -236,7 +236,7 @@ void FrameDeviceHolder::retranslate(bool languageChange)
     if (languageChange) labels.at(kLightLabel)->setTip(tr("灯光设置"));
 }
 
-void FrameDeviceHolder::setDevice(DeviceEnumInfo* deviceInfo, const QString& deviceImage,
+void FrameDeviceHolder::setDevice(const DeviceEnumInfo& deviceInfo, const QString& deviceImage,
                                   const QString& name)
 {
     current = deviceInfo;
@@ -274,11 +274,11 @@ void FrameDeviceHolder::onLayerClicked(int id)
     device->DoSetProfile(quint8(layer));
 }
 
-void FrameDeviceHolder::showBattery(DeviceEnumInfo* deviceInfo, const QString& battImg,
+void FrameDeviceHolder::showBattery(const QString& devicePath, const QString& battImg,
                                     const QString& typeImg, const QString& tip,
                                     const QString& style)
 {
-    if (!deviceInfo || deviceInfo != current) return;
+    if (devicePath.isEmpty() || devicePath != current.devicePath) return;
     labelBatt->setVisible(!battImg.isEmpty());
     labelBatt->setPixmap(QPixmap(battImg));
     labelBatt->setStyleSheet(style);

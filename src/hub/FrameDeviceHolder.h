@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DeviceEnumInfo.h"
+
 #include <QFrame>
 #include <QList>
 #include <QString>
@@ -16,7 +18,6 @@ class QButtonGroup;
 class QLabel;
 class QPushButton;
 class SuperLabel;
-struct DeviceEnumInfo;
 
 // The page of a native keyboard: a navigation column, a toolbar with the device's name, badges
 // and onboard profiles, and six pages. It is given the program's one connection, the key tables
@@ -40,20 +41,21 @@ public:
     DialogDeviceConnect* connection() const { return device; }
     ModuleGenKeymapping& keyTables() const { return keys; }
     ModuleMacroManager& macroStore() const { return macros; }
-    DeviceEnumInfo* currentDevice() const { return current; }
+    // The record of the device shown, as the window handed it over.
+    const DeviceEnumInfo& currentDevice() const { return current; }
     // The page shown, 0 to 5.
     int currentPage() const { return pageIndex; }
     QWidget* page(int index) const { return pages.value(index); }
     FrameKeySetting* keySetting() const { return frameKeySetting; }
     FrameLight* light() const { return frameLight; }
 
-    void setDevice(DeviceEnumInfo* device, const QString& deviceImage, const QString& name);
+    void setDevice(const DeviceEnumInfo& device, const QString& deviceImage, const QString& name);
     // Ignored while the connection reads the keyboard; 6 and 7 leave the shell.
     void showPage(SuperLabel* label, int index);
     // Presses the button of an onboard profile, 0 to 3; other values do nothing.
     void setLayer(int layer);
     // A card's battery answer; ignored unless it is about the device shown.
-    void showBattery(DeviceEnumInfo* device, const QString& battImg, const QString& typeImg,
+    void showBattery(const QString& devicePath, const QString& battImg, const QString& typeImg,
                      const QString& tip, const QString& style);
 
 signals:
@@ -73,7 +75,7 @@ private:
     DialogDeviceConnect* device;
     ModuleGenKeymapping& keys;
     ModuleMacroManager& macros;
-    DeviceEnumInfo* current = nullptr;
+    DeviceEnumInfo current;
     QList<SuperLabel*> labels;
     QList<QWidget*> pages;
     FrameMain* frameMain = nullptr;

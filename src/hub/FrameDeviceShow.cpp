@@ -32,67 +32,12 @@ const char* const kNameStyle = "font-size: 18px; font-weight: 600; color: #1A1A1
 constexpr int kBadgeSize = 25;
 constexpr int kCardHeight = 330;
 
-std::array<QPointer<FrameDeviceShow>, FrameDeviceShow::kPoolSize>& pool()
-{
-    static std::array<QPointer<FrameDeviceShow>, FrameDeviceShow::kPoolSize> cards;
-    return cards;
-}
-
-QPointer<FrameDeviceShow>& selectedCard()
-{
-    static QPointer<FrameDeviceShow> card;
-    return card;
-}
-
-FrameDeviceShow::Context& context()
-{
-    static FrameDeviceShow::Context shared;
-    return shared;
-}
-
-Clock* cardClock()
-{
-    return context().clock ? context().clock : QtClock::shared();
-}
-
-QString imagesDir()
-{
-    return OrbeDeviceBase::rootDir(context().appDir) + QStringLiteral("/images/");
-}
-
 QString badge(const char* name)
 {
     return QLatin1String(DeviceCardTables::kBadgeDir) + QLatin1String(name);
 }
 
 } // namespace
-
-void FrameDeviceShow::setContext(const Context& shared)
-{
-    context() = shared;
-}
-
-FrameDeviceShow* FrameDeviceShow::acquire(int index, QWidget* parent)
-{
-    if (index < 0 || index >= kPoolSize) return nullptr;
-    QPointer<FrameDeviceShow>& slot = pool()[index];
-    if (!slot) {
-        slot = new FrameDeviceShow(parent);
-        if (!selectedCard()) selectedCard() = slot;
-    }
-    return slot;
-}
-
-void FrameDeviceShow::hideFrom(int index)
-{
-    for (int i = qMax(0, index); i < kPoolSize; ++i)
-        if (FrameDeviceShow* card = pool()[i]) card->hide();
-}
-
-FrameDeviceShow* FrameDeviceShow::selected()
-{
-    return selectedCard();
-}
 
 QSize FrameDeviceShow::imageSize(const QSize& picture, int cardWidth)
 {
@@ -136,7 +81,18 @@ QString FrameDeviceShow::batteryTip(int percent)
     return tr("剩余电量") + QStringLiteral(": %1%").arg(percent);
 }
 
-FrameDeviceShow::FrameDeviceShow(QWidget* parent) : QFrame(parent)
+Clock* FrameDeviceShow::clock() const
+{
+    return context.clock ? context.clock : QtClock::shared();
+}
+
+QString FrameDeviceShow::imagesDir() const
+{
+    return OrbeDeviceBase::rootDir(context.appDir) + QStringLiteral("/images/");
+}
+
+FrameDeviceShow::FrameDeviceShow(const Context& cardContext, QWidget* parent)
+    : QFrame(parent), context(cardContext)
 {
     setObjectName(QStringLiteral("FrameDeviceShow"));
     setStyleSheet(QLatin1String(kNormalStyle));
@@ -176,33 +132,37 @@ FrameDeviceShow::FrameDeviceShow(QWidget* parent) : QFrame(parent)
     badges->addStretch(1);
     layout->addLayout(badges);
 
-    reportTimer = cardClock()->createTimer([this] { report(); }, false);
+    reportTimer = clock()->createTimer([this] { report(); }, false);
     reportTimer->start(kReportPeriodMs);
 }
 
 FrameDeviceShow::~FrameDeviceShow() = default;
 
-void FrameDeviceShow::setDevice(DeviceEnumInfo* device)
+void FrameDeviceShow::setDevice(const DeviceEnumInfo& device)
 {
+    // Every pass hands the same devices over again: a picture already shown isn't decoded anew.
+    const bool samePicture = hasDevice && current.displayName == device.displayName &&
+                             current.deviceType == device.deviceType;
     current = device;
-    if (!device) return;
-    labelDeviceName->setText(device->displayName);
+    hasDevice = true;
+    labelDeviceName->setText(device.displayName);
 
-    QString path = imagesDir() + device->displayName + QStringLiteral(".png");
+    QString path = imagesDir() + device.displayName + QStringLiteral(".png");
     if (!QFile::exists(path))
         path =
-            imagesDir() + QString(device->displayName).replace(u' ', u'-') + QStringLiteral(".png");
-    setImage(path, device->deviceType);
+            imagesDir() + QString(device.displayName).replace(u' ', u'-') + QStringLiteral(".png");
+    if (!samePicture || path != shownPicture) setImage(path, device.deviceType);
 
-    labelPower->setVisible(device->connectionType != DeviceEnumInfo::Usb);
-    cardClock()->singleShot(kFirstReportMs, this, [this] { report(); });
+    labelPower->setVisible(device.connectionType != DeviceEnumInfo::Usb);
+    clock()->singleShot(kFirstReportMs, this, [this] { report(); });
 
-    typeImg = connectionImage(device->connectionType);
+    typeImg = connectionImage(device.connectionType);
     labelType->setPixmap(QPixmap(typeImg));
 }
 
 void FrameDeviceShow::setImage(const QString& path, int deviceType)
 {
+    shownPicture = path;
     if (deviceType == DeviceEnumInfo::Keyboard)
         setFixedWidth(kKeyboardCardWidth);
     else if (deviceType == DeviceEnumInfo::Mouse || deviceType == 2)
@@ -229,19 +189,18 @@ void FrameDeviceShow::setImage(const QString& path, int deviceType)
 
 void FrameDeviceShow::report()
 {
-    if (!current || current->connectionType == DeviceEnumInfo::Usb) return;
-    const quint8 family = current->family;
+    if (!hasDevice || current.connectionType == DeviceEnumInfo::Usb) return;
+    const quint8 family = current.family;
     if (family != DeviceEnumInfo::CloudFamily && family != DeviceEnumInfo::WsFamily) {
         showBattery(0); // these families tell no charge
         return;
     }
-    BatteryPoller* poller = context().poller;
-    if (!poller || batteryPending) return;
+    if (!context.poller || batteryPending) return;
     batteryPending = true;
-    DeviceEnumInfo* asked = current;
-    poller->read(family, current->devicePath, this, [this, asked](int percent) {
+    const QString asked = current.devicePath;
+    context.poller->read(family, asked, this, [this, asked](int percent) {
         batteryPending = false;
-        if (asked == current) showBattery(percent);
+        if (asked == current.devicePath) showBattery(percent);
     });
 }
 
@@ -255,7 +214,7 @@ void FrameDeviceShow::showBattery(int percent)
     labelPower->setToolTip(tip);
     labelPower->setStyleSheet(style);
     labelPower->update();
-    emit onReport(current, image, typeImg, tip, style);
+    emit onReport(current.devicePath, image, typeImg, tip, style);
 }
 
 void FrameDeviceShow::setHovered(bool hovered)
@@ -280,9 +239,9 @@ bool FrameDeviceShow::event(QEvent* event)
         setHovered(false);
         break;
     case QEvent::MouseButtonPress: {
-        DeviceEnumInfo* device = current;
-        cardClock()->singleShot(kClickDelayMs, this, [this, device] {
-            emit onClicked(device, deviceImg);
+        const QString path = devicePath();
+        clock()->singleShot(kClickDelayMs, this, [this, path] {
+            emit onClicked(path, deviceImg);
             report();
         });
         break;
@@ -295,9 +254,11 @@ bool FrameDeviceShow::event(QEvent* event)
 
 void FrameDeviceShow::mousePressEvent(QMouseEvent* event)
 {
-    FrameDeviceShow* previous = selectedCard();
-    if (previous && previous != this) previous->setHovered(false);
-    selectedCard() = this;
+    // The card pressed last is the one that looks hovered.
+    if (parentWidget())
+        for (FrameDeviceShow* other :
+             parentWidget()->findChildren<FrameDeviceShow*>(QString(), Qt::FindDirectChildrenOnly))
+            if (other != this) other->setHovered(false);
     setHovered(true);
     QFrame::mousePressEvent(event);
 }

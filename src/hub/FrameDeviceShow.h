@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DeviceEnumInfo.h"
+
 #include <QFrame>
 #include <QSize>
 #include <QString>
@@ -10,11 +12,11 @@ class Clock;
 class ClockTimer;
 class QLabel;
 class QScrollArea;
-struct DeviceEnumInfo;
 
 // The card of one online device on the "my devices" page: picture, name, connection and
-// battery badges. Cards are pooled, one slot per position on the page; a click on a card starts
-// the hand-over of its device.
+// battery badges. The window keeps a pool of them, one per position on the page, and gives each
+// a copy of its device's record; a click on a card starts the hand-over of its device, named by
+// its path.
 class FrameDeviceShow : public QFrame
 {
     Q_OBJECT
@@ -31,43 +33,38 @@ public:
     static constexpr int kKeyboardCardWidth = 970;
     static constexpr int kSmallCardWidth = 280; // mice and type 2
 
-    // What every card uses: the clock of its timers, the battery poller, and the folder that
-    // holds "images/" (empty: the folder the program ships them in).
+    // What every card uses: the clock of its timers (null: the real one), the battery poller
+    // (null: none asked), and the folder that holds "images/" (empty: the folder the program
+    // ships them in).
     struct Context
     {
         Clock* clock = nullptr;
         BatteryPoller* poller = nullptr;
         QString appDir;
     };
-    static void setContext(const Context& context);
-
-    // The pooled card of a position, made on first use; null past the pool.
-    static FrameDeviceShow* acquire(int index, QWidget* parent);
-    // Hides every pooled card from that position on.
-    static void hideFrom(int index);
-    // The card clicked last (at first, the first card made).
-    static FrameDeviceShow* selected();
 
     // The size of the picture on a card of cardWidth, for a picture of that size.
     static QSize imageSize(const QSize& picture, int cardWidth);
 
+    // context's clock and poller must outlive the card.
+    FrameDeviceShow(const Context& context, QWidget* parent);
     ~FrameDeviceShow() override;
 
     void setScrollArea(QScrollArea* area) { scrollArea = area; }
-    void setDevice(DeviceEnumInfo* device);
+    // Shows the device and asks for its battery 2 s later; a picture already shown is kept.
+    void setDevice(const DeviceEnumInfo& device);
     // Shows the picture at path, or the default picture of the device type when it can't be
     // read, and sizes the card to it.
     void setImage(const QString& path, int deviceType);
     // Asks for the battery of a wireless device; the card updates when the answer comes.
     void report();
 
-    DeviceEnumInfo* device() const { return current; }
+    // The record shown, as the last snapshot had it; null before the first.
+    const DeviceEnumInfo* device() const { return hasDevice ? &current : nullptr; }
+    QString devicePath() const { return hasDevice ? current.devicePath : QString(); }
     QString deviceImage() const { return deviceImg; }
     QString typeImage() const { return typeImg; }
-    // Whether the window has connected this card's signals (cards keep their connections when
-    // they are reused for another device).
-    bool signalsConnected() const { return connected; }
-    void setSignalsConnected(bool on) { connected = on; }
+    void setHovered(bool hovered);
 
     // The badge and tooltip of a charge in percent, as the card shows them.
     static QString batteryImage(int percent);
@@ -75,9 +72,9 @@ public:
     static QString batteryTip(int percent);
 
 signals:
-    void onClicked(DeviceEnumInfo* device, QString deviceImg);
-    void onReport(DeviceEnumInfo* device, QString battImg, QString typeImg, QString tip,
-                  QString style);
+    void onClicked(const QString& devicePath, const QString& deviceImg);
+    void onReport(const QString& devicePath, const QString& battImg, const QString& typeImg,
+                  const QString& tip, const QString& style);
 
 protected:
     bool event(QEvent* event) override;
@@ -85,15 +82,17 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    explicit FrameDeviceShow(QWidget* parent);
     void showBattery(int percent);
-    void setHovered(bool hovered);
+    Clock* clock() const;
+    QString imagesDir() const;
 
-    DeviceEnumInfo* current = nullptr;
+    Context context;
+    DeviceEnumInfo current;
+    bool hasDevice = false;
     QScrollArea* scrollArea = nullptr;
-    bool connected = false;
     QString deviceImg;
     QString typeImg;
+    QString shownPicture; // the file setImage was given last
     int lastPercent = -1;
     bool batteryPending = false;
 
