@@ -26,6 +26,7 @@
 #include "ModuleEfColor.h"
 #include "ModuleMacroManager.h"
 #include "Platform.h"
+#include "ScriptedInput.h"
 #include "SuperLabel.h"
 #include "VirtualHidBackend.h"
 
@@ -59,17 +60,6 @@ bool save(QWidget& window, const QString& path)
     const bool ok = window.grab().save(path);
     QTextStream(stdout) << (ok ? "wrote " : "could not write ") << path << '\n';
     return ok;
-}
-
-void click(QWidget* widget)
-{
-    const QPointF at(widget->width() / 2.0, widget->height() / 2.0);
-    QMouseEvent press(QEvent::MouseButtonPress, at, widget->mapToGlobal(at), Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &press);
-    QMouseEvent release(QEvent::MouseButtonRelease, at, widget->mapToGlobal(at), Qt::LeftButton,
-                        Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &release);
 }
 
 // The screen where the window stands, so that the picker's own window is in the picture.
@@ -244,7 +234,7 @@ int main(int argc, char* argv[])
             if (waited < kSettleMs) return;
             if (!save(window, out + QStringLiteral("/cards.png"))) app.exit(1);
             // The native keyboard on Bluetooth, the second card: its page shows the battery.
-            click(window.card(1));
+            ScriptedInput::click(window.card(1));
             step = Step::Shell;
             return;
         case Step::Shell: {

@@ -14,13 +14,13 @@
 #include "FrameDeviceShow.h"
 #include "MainWindow.h"
 #include "Platform.h"
+#include "ScriptedInput.h"
 #include "StallWatchdog.h"
 #include "TimedHidBackend.h"
 
 #include <QApplication>
 #include <QCursor>
 #include <QElapsedTimer>
-#include <QMouseEvent>
 #include <QStandardPaths>
 #include <QTextStream>
 #include <QTimer>
@@ -37,17 +37,6 @@ constexpr quint8 kFirstKeyCode = 0x04; // A, then on through the letters and dig
 constexpr int kKeyCodes = 36;
 constexpr quint8 kActuationTable = 0x00;
 constexpr quint32 kActuationRaw = 300; // 1.5 mm
-
-void click(QWidget* widget)
-{
-    const QPointF at(widget->width() / 2.0, widget->height() / 2.0);
-    QMouseEvent press(QEvent::MouseButtonPress, at, widget->mapToGlobal(at), Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &press);
-    QMouseEvent release(QEvent::MouseButtonRelease, at, widget->mapToGlobal(at), Qt::LeftButton,
-                        Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &release);
-}
 
 // The card of the native keyboard on the radio link.
 FrameDeviceShow* wirelessCard(const MainWindow& window)
@@ -137,7 +126,7 @@ int main(int argc, char* argv[])
             report(QStringLiteral("idle hub (the machine's own share)"));
             watchdog.restart();
             phase.restart();
-            click(wirelessCard(window));
+            ScriptedInput::click(wirelessCard(window));
             step = Step::Read;
             return;
         case Step::Read:
