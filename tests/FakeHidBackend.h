@@ -32,6 +32,7 @@ public:
         QByteArray bytes;
         qint64 at = 0;
         QByteArray path;
+        const HidHandle* handle = nullptr; // the one opened, or the one used
     };
 
     explicit FakeHidBackend(Clock* c) : clock(c) {}
@@ -101,27 +102,31 @@ public:
     }
     HidHandle* openPath(const QByteArray& path) override
     {
-        record("open", {}, path);
-        if (failingPaths.contains(path)) return nullptr;
+        if (failingPaths.contains(path)) {
+            record("open", {}, path);
+            return nullptr;
+        }
         ++opened;
-        return new Handle(path);
+        auto* h = new Handle(path);
+        record("open", {}, path, h);
+        return h;
     }
     void close(HidHandle* h) override
     {
         if (!h) return;
-        record("close", {}, static_cast<Handle*>(h)->path);
+        record("close", {}, static_cast<Handle*>(h)->path, h);
         ++closed;
         delete h;
     }
     int setNonblocking(HidHandle* h, bool nonblocking) override
     {
-        record("nonblock", QByteArray(1, nonblocking ? 1 : 0), path(h));
+        record("nonblock", QByteArray(1, nonblocking ? 1 : 0), path(h), h);
         return h ? 0 : -1;
     }
     int sendFeatureReport(HidHandle* h, const quint8* data, size_t length) override
     {
         const QByteArray bytes(reinterpret_cast<const char*>(data), int(length));
-        record("feature>", bytes, path(h));
+        record("feature>", bytes, path(h), h);
         pendingReply = responder(bytes.mid(1));
         return int(length);
     }
@@ -129,19 +134,19 @@ public:
     {
         if (failReplies > 0) {
             --failReplies;
-            record("feature<", {}, path(h));
+            record("feature<", {}, path(h), h);
             return -1;
         }
         QByteArray reply = QByteArray(1, '\0') + pendingReply;
         reply = reply.left(int(length));
         std::copy(reply.begin(), reply.end(), data);
-        record("feature<", reply, path(h));
+        record("feature<", reply, path(h), h);
         return reply.size();
     }
     int write(HidHandle* h, const quint8* data, size_t length) override
     {
         const QByteArray bytes(reinterpret_cast<const char*>(data), int(length));
-        record("write", bytes, path(h));
+        record("write", bytes, path(h), h);
         wirelessReplies.push_back(QByteArray("\x06\x55", 2) + responder(bytes.mid(2)));
         return int(length);
     }
@@ -151,7 +156,7 @@ public:
         const QByteArray r = inputReports.front().left(int(length));
         inputReports.pop_front();
         std::copy(r.begin(), r.end(), data);
-        record("read", r, path(h));
+        record("read", r, path(h), h);
         return r.size();
     }
     int readTimeout(HidHandle* h, quint8* data, size_t length, int) override
@@ -168,7 +173,7 @@ public:
         }
         r = r.left(int(length));
         std::copy(r.begin(), r.end(), data);
-        record("read", r, path(h));
+        record("read", r, path(h), h);
         return r.size();
     }
 
@@ -179,9 +184,10 @@ private:
         QByteArray path;
     };
     static QByteArray path(HidHandle* h) { return h ? static_cast<Handle*>(h)->path : "null"; }
-    void record(const char* kind, const QByteArray& bytes, const QByteArray& p)
+    void record(const char* kind, const QByteArray& bytes, const QByteArray& p,
+                const HidHandle* h = nullptr)
     {
-        log.append({QString::fromLatin1(kind), bytes, clock->elapsedMs(), p});
+        log.append({QString::fromLatin1(kind), bytes, clock->elapsedMs(), p, h});
     }
 
     Clock* clock;

@@ -2,6 +2,7 @@
 // against a strict scripted backend in virtual time.
 
 #include "ConnectionRig.h"
+#include "DeviceLink.h"
 #include "Frame.h"
 
 #include <QSettings>
@@ -347,6 +348,44 @@ private slots:
         for (const auto& t : rig.hid.log)
             if (t.kind == "open") opened.append(t.path);
         QCOMPARE(opened, (QList<QByteArray>{"in:5030", "cmd:5030", "cmd:5030"}));
+    }
+
+    // The music report's round on the link's third handle: ten sends 20 ms apart, each followed
+    // by a read that is dropped; none without that handle.
+    void musicRoundOnItsOwnHandle()
+    {
+        ManualClock clock;
+        FakeHidBackend hid(&clock);
+        InlineHidExecutor io;
+        DeviceLink link(hid, clock, io);
+        bool done = false;
+        link.sendMusicRound(hex("00 0D 05"), 10, 20, [&] { done = true; });
+        QVERIFY(!done);
+        QVERIFY(hid.log.isEmpty());
+
+        hid.addWiredKeyboard();
+        link.openWired(0x3151, 0x502F,
+                       [](DeviceLink::WiredOpen opened) { QVERIFY(opened.complete()); });
+        QList<const HidHandle*> opened;
+        for (const auto& t : hid.log)
+            if (t.kind == "open") opened.append(t.handle);
+        QCOMPARE(opened.size(), 3); // input, command, music
+        hid.log.clear();
+        const qint64 start = clock.elapsedMs();
+        link.sendMusicRound(hex("00 0D 05"), 10, 20, [&] { done = true; });
+        QVERIFY(done);
+        QCOMPARE(hid.log.size(), 20);
+        for (int i = 0; i < 10; ++i) {
+            const auto& send = hid.log.at(2 * i);
+            const auto& read = hid.log.at(2 * i + 1);
+            QCOMPARE(send.kind, QString("feature>"));
+            QCOMPARE(send.bytes, hex("00 0D 05"));
+            QCOMPARE(send.at, start + 20 * i);
+            QCOMPARE(read.kind, QString("feature<"));
+            QCOMPARE(send.handle, opened.at(2));
+            QCOMPARE(read.handle, opened.at(2));
+        }
+        QCOMPARE(clock.elapsedMs(), start + 200);
     }
 
     void consoleWrite()

@@ -220,6 +220,27 @@ void DeviceLink::readStep()
         });
 }
 
+void DeviceLink::sendMusicRound(const QByteArray& wrappedReport, int times, int gapMs,
+                                std::function<void()> done)
+{
+    if (!musicHandle) return;
+    HidHandle* handle = musicHandle;
+    job<bool>(
+        [&backend = hid, &wait = clock, handle, wrappedReport, times, gapMs] {
+            const auto* bytes = reinterpret_cast<const quint8*>(wrappedReport.constData());
+            for (int i = 0; i < times; ++i) {
+                backend.sendFeatureReport(handle, bytes, size_t(wrappedReport.size()));
+                wait.sleepMs(gapMs);
+                quint8 answer[Frame::kReplyBufferSize] = {}; // read and dropped
+                backend.getFeatureReport(handle, answer, Frame::kWiredLength);
+            }
+            return true;
+        },
+        [done](bool) {
+            if (done) done();
+        });
+}
+
 // ---------------------------------------------------------------- input stream
 
 void DeviceLink::pollInput()

@@ -75,6 +75,13 @@ public:
     // Takes a reply now, whatever was sent (the console's Read button).
     void readStep();
 
+    // The music report's round on its own handle: times over, send the wrapped report, wait
+    // gapMs on the clock, read the answer and drop it. It runs as one job, so the queue's
+    // frames wait behind it as they would behind the round on one thread; done comes back here
+    // afterwards. Nothing happens without the music handle (a wireless connection has none).
+    void sendMusicRound(const QByteArray& wrappedReport, int times, int gapMs,
+                        std::function<void()> done = {});
+
     // The read sequence's flag: the input poll waits while it is up, and the pump step that
     // finds the queue empty reports the end of the sequence.
     bool isReadingAll() const { return readingAll; }
