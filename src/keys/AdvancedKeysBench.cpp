@@ -60,7 +60,9 @@ int main(int argc, char* argv[])
         VirtualHidBackend hid(&clock);
         VirtualKeyboard* keyboard = wireless ? hid.addWirelessKeyboard() : hid.addWiredKeyboard();
         QTemporaryDir dir;
-        DialogDeviceConnect link(&hid, &clock, dir.filePath("device.ini"));
+        ModuleGenKeymapping keys;
+        DialogDeviceConnect link(&hid, &clock, keys, dir.filePath("device.ini"),
+                                 std::make_unique<InlineHidExecutor>());
         QObject::connect(&link, &DialogDeviceConnect::onUpdataLayer, &link,
                          [&](int layer) { link.DoSetProfile(quint8(layer)); });
         link.DoConnectDevice(keyboard->vendorId(), keyboard->productId(), wireless, "0AF7",
@@ -70,7 +72,6 @@ int main(int argc, char* argv[])
                                       1);
         };
         settle();
-        ModuleGenKeymapping keys;
         ModuleMacroManager macros(dir.path());
         FrameKeySetting page(&link, keys, macros, &clock);
         page.show();
