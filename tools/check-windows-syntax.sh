@@ -52,7 +52,8 @@ check hub UserSettings.cpp "${qt_flags[@]}" -I"$here/src/device" -I"$here/src/pl
 # The loopback capture as a Windows build without miniaudio.h makes it: silence.
 check audio LoopbackCapture.cpp "${qt_flags[@]}" -I"$here/src/device"
 check audio SilentLoopbackCapture.cpp "${qt_flags[@]}" -I"$here/src/device"
-# Windows hands a key event's scan code over in its own form; the macro page reads it here.
-check macros MacroKeyCodes.cpp "${qt_flags[@]}" -isystem "$qt_include/QtGui" -DQT_GUI_LIB \
+# Windows hands a key event's scan code over in its own form; the macro page and the key test
+# read it here.
+check keys KeyEventCodes.cpp "${qt_flags[@]}" -isystem "$qt_include/QtGui" -DQT_GUI_LIB \
   -I"$here/src/keycore"
 exit $status

@@ -2,7 +2,7 @@
 
 #include "Clock.h"
 #include "MacroItem.h"
-#include "MacroKeyCodes.h"
+#include "KeyEventCodes.h"
 #include "MacroSquare.h"
 #include "ModuleAddMacroSquare.h"
 #include "ModuleMacroManager.h"
@@ -240,7 +240,7 @@ void FrameMacro::recordKey(QKeyEvent* event, bool down)
 {
     event->accept();
     if (event->isAutoRepeat()) return; // a held key is one press
-    const MacroKeyCodes::RecordedKey key = MacroKeyCodes::recordedKey(*event);
+    const KeyEventCodes::RecordedKey key = KeyEventCodes::recordedKey(*event);
     if (key.code == 0) return; // a key the vocabulary has no code for adds nothing
     takeGap();
     addSquare(MacroEvent::Key, down, key.code, key.name);

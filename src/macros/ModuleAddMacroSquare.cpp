@@ -1,6 +1,6 @@
 #include "ModuleAddMacroSquare.h"
 
-#include "MacroKeyCodes.h"
+#include "KeyEventCodes.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -219,7 +219,7 @@ bool ModuleAddMacroSquare::eventFilter(QObject* watched, QEvent* event)
         if (event->type() == QEvent::KeyPress) {
             const auto* key = static_cast<QKeyEvent*>(event);
             if (!key->isAutoRepeat()) {
-                const MacroKeyCodes::RecordedKey caught = MacroKeyCodes::recordedKey(*key);
+                const KeyEventCodes::RecordedKey caught = KeyEventCodes::recordedKey(*key);
                 caughtCode = caught.code;
                 caughtText = caught.name;
                 lineEditKey->setText(caughtText);

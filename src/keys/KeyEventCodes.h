@@ -5,10 +5,11 @@
 
 class QKeyEvent;
 
-// What a recorded key is: the key vocabulary names keys by their set-1 scan code (E0 in the high
-// byte for extended keys), the code a Windows key event carries. Key events on other systems
-// are brought to that same code, so that a macro recorded anywhere holds the same key codes.
-namespace MacroKeyCodes {
+// Which key a key event is: the key vocabulary names keys by their set-1 scan code (E0 in the
+// high byte for extended keys), the code a Windows key event carries. Key events on other systems
+// are brought to that same code, so that a macro recorded anywhere holds the same key codes and
+// the key test names the keys a Windows user sees.
+namespace KeyEventCodes {
 
 // The set-1 scan code of the key of a key event; 0 when the key has none (media keys, F13 up).
 quint16 scanCode(const QKeyEvent& event);
@@ -25,4 +26,4 @@ RecordedKey recordedKey(const QKeyEvent& event);
 // The scan code of an evdev key code (a Linux X11 or Wayland key code minus 8); 0 if unknown.
 quint16 scanOfEvdev(quint32 evdev);
 
-} // namespace MacroKeyCodes
+} // namespace KeyEventCodes

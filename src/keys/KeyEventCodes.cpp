@@ -1,11 +1,11 @@
-#include "MacroKeyCodes.h"
+#include "KeyEventCodes.h"
 
 #include "KeyNameTable.h"
 
 #include <QKeyEvent>
 #include <iterator>
 
-namespace MacroKeyCodes {
+namespace KeyEventCodes {
 
 namespace {
 
@@ -182,4 +182,4 @@ RecordedKey recordedKey(const QKeyEvent& event)
     return {.code = code, .name = KeyNameByScan(scan)};
 }
 
-} // namespace MacroKeyCodes
+} // namespace KeyEventCodes
