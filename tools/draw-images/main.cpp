@@ -1,11 +1,12 @@
 // Draws every picture of the hub.
 //   orbe_draw_images <resource folder> <folder beside the program> <icon theme folder>
-//                    <macro page folder>
+//                    <macro page folder> <magnetic page folder>
 // The first receives what is built into ":/images/", the second the start-up pictures, the
 // default device pictures and one picture per catalogue device, named after the device with
 // blanks as dashes (the form the hub looks up), the third the application icon in the hicolor
 // theme's sizes (hicolor/<n>x<n>/apps/<application id>.png), installed for the desktop, the
-// fourth the macro page's pictures (built into ":/images/macropage/" by the page's own library).
+// fourth the macro page's pictures (built into ":/images/macropage/" by the page's own library),
+// the fifth the magnetic page's (built into ":/images/" by that page's library).
 
 #include "AppIconArt.h"
 #include "Art.h"
@@ -17,6 +18,7 @@
 #include "KeyboardArt.h"
 #include "LightArt.h"
 #include "MacroPageArt.h"
+#include "MagneticArt.h"
 
 #include <QGuiApplication>
 #include <QTextStream>
@@ -121,16 +123,17 @@ int main(int argc, char* argv[])
 {
     QGuiApplication app(argc, argv);
     const QStringList args = app.arguments();
-    if (args.size() != 5) {
+    if (args.size() != 6) {
         QTextStream(stderr)
             << "usage: orbe_draw_images <resource folder> <beside folder> <icon theme folder> "
-               "<macro page folder>\n";
+               "<macro page folder> <magnetic page folder>\n";
         return 2;
     }
     const QString res = args.at(1) + u'/';
     const QString beside = args.at(2) + u'/';
     const QString icons = args.at(3) + u'/';
     const QString macroPage = args.at(4) + u'/';
+    const QString magneticPage = args.at(5) + u'/';
 
     for (int size : AppIconArt::kSizes)
         Art::save(AppIconArt::appIcon(size),
@@ -174,5 +177,6 @@ int main(int argc, char* argv[])
     for (const DevicePicture& device : kDevices)
         Art::save(devicePicture(device), beside + device.file + ".png");
     MacroPageArt::saveAll(macroPage);
+    MagneticArt::saveAll(magneticPage);
     return 0;
 }
