@@ -475,6 +475,106 @@
     </message>
 </context>
 <context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Travel</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Dead zones</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>Switch type</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>Stabilisation</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>Tests</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>Keys selected</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Jade pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Jade gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Sky King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>Magnet King</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>Mechanical</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Kaihua</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Starshine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>Low-profile</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Baize</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Jade Gaming</translation>
+    </message>
+</context>
+<context>
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
@@ -510,6 +610,29 @@
         <source>行程校准</source>
         <translation>Travel calibration</translation>
     </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Press each key gently all the way down in turn and hold it there for at least one second, until it turns orange (that key is calibrated). Miss none; pressing a key again does no harm. Over a wireless link the calibrated keys are not shown. Do not unplug the cable while calibrating.</translation>
+    </message>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>Travel calibration guide</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>Start calibration</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>完成校准</source>
+        <translation>Finish calibration</translation>
+    </message>
 </context>
 <context>
     <name>MacroItem</name>
@@ -543,6 +666,137 @@
     <message>
         <source>删除此事件</source>
         <translation>Delete this event</translation>
+    </message>
+</context>
+<context>
+    <name>MagicDeadZonePage</name>
+    <message>
+        <source>当前选择按键数量:0</source>
+        <translation>Keys selected: 0</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Dead zones</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>Key dead zones</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>The travel between bottoming out and the start of a release is called the "dead zone". Dead zones keep a magnetic switch from dropping out under outside interference. The bottom of a magnetic switch can be set to suit you; within a dead zone the key does not trigger.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>Top dead zone</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>Bottom dead zone</translation>
+    </message>
+</context>
+<context>
+    <name>MagicStabPage</name>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0% (off)</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (rapid trigger stabilisation)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>With RT Stab on, the keyboard steadies the bottom of the travel. The higher the level, the steadier the keys, at the cost of a little more latency.</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>Anti-mistouch</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>At the most sensitive settings a shaking desk or a switch tolerance of up to 0.1 mm can trigger a key by mistake. When on, the keyboard makes up that difference at the bottom of the travel and stays steadier.</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(Off)</translation>
+    </message>
+</context>
+<context>
+    <name>MagicSwitchPage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>Switch type</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>After changing switches, pick a type below, then click the keys that carry it: each key is set at once and shows the colour of its switch type.</translation>
+    </message>
+</context>
+<context>
+    <name>MagicTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Travel test</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>Key test</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>Keys received</translation>
+    </message>
+</context>
+<context>
+    <name>MagicTravelPage</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Travel</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>Separate press and release:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Full-travel rapid trigger (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。</source>
+        <translation>On: rapid trigger ends only when the key is fully released.</translation>
+    </message>
+    <message>
+        <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>Off: rapid trigger ends once the key rises past its actuation point.</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>Separate re-press and reset travel</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>Travel to fire again on a press (mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>Travel to reset on a release (mm)</translation>
     </message>
 </context>
 <context>

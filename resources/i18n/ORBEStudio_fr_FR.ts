@@ -475,6 +475,106 @@
     </message>
 </context>
 <context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
@@ -510,6 +610,29 @@
         <source>行程校准</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>完成校准</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MacroItem</name>
@@ -542,6 +665,137 @@
     </message>
     <message>
         <source>删除此事件</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MagicDeadZonePage</name>
+    <message>
+        <source>当前选择按键数量:0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MagicStabPage</name>
+    <message>
+        <source>0%(关闭)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MagicSwitchPage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MagicTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MagicTravelPage</name>
+    <message>
+        <source>行程设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

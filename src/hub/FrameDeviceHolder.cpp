@@ -77,7 +77,7 @@ QString picture(const NavigationEntry& entry, int state)
 FrameDeviceHolder::FrameDeviceHolder(DialogDeviceConnect* connection,
                                      ModuleGenKeymapping& keyTables, ModuleMacroManager& macroStore,
                                      const QString& worksFolder, Clock* clock, QWidget* parent)
-    : QFrame(parent), device(connection), keys(keyTables), macros(macroStore)
+    : QFrame(parent), device(connection), clock(clock), keys(keyTables), macros(macroStore)
 {
     setObjectName(QStringLiteral("FrameDeviceHolder"));
     buildForm();
@@ -85,7 +85,7 @@ FrameDeviceHolder::FrameDeviceHolder(DialogDeviceConnect* connection,
     auto* keySetting = new FrameKeySetting(device, keys, macros, clock, this);
     frameKeySetting = keySetting;
     frameMain = new FrameMain(device, this, clock);
-    auto* magic = new FrameMagic(this);
+    auto* magic = new FrameMagic(device, clock, this);
     auto* macro = new FrameMacro(macros, this, clock);
     frameLight = new FrameLight(device, worksFolder, clock, this);
     auto* about = new FrameAbout(this);
@@ -288,7 +288,8 @@ void FrameDeviceHolder::showBattery(const QString& devicePath, const QString& ba
 
 void FrameDeviceHolder::openCalibration()
 {
-    auto* guide = new LinearFixing1(window());
+    // The guide runs the whole calibration and closes itself, with the progress view over it.
+    auto* guide = new LinearFixing1(device, clock, window());
     guide->setAttribute(Qt::WA_DeleteOnClose);
     guide->open();
 }

@@ -73,6 +73,7 @@ private:
     void openCalibration();
 
     DialogDeviceConnect* device;
+    Clock* clock;
     ModuleGenKeymapping& keys;
     ModuleMacroManager& macros;
     DeviceEnumInfo current;

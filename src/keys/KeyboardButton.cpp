@@ -13,6 +13,7 @@ constexpr int kFillAlpha = 160;
 constexpr int kFillRadius = 14;
 constexpr int kCaptionPixels = 9;
 constexpr int kCaptionGap = 4; // the captions' edges stand this far past the key's middle
+constexpr qreal kCaptionSpacing = -0.6;
 const QString kShapeMark = QStringLiteral("[==set==]");
 
 // Shared by every key; built once.
@@ -200,10 +201,14 @@ void KeyboardButton::paintEvent(QPaintEvent* event)
     QFont small = font();
     small.setWeight(QFont::Normal);
     small.setPixelSize(kCaptionPixels);
+    // Two values of five characters share a 48-pixel key's lower edge: the figures are set
+    // narrow so that they don't run into each other.
+    small.setStretch(QFont::Condensed);
+    small.setLetterSpacing(QFont::AbsoluteSpacing, kCaptionSpacing);
     painter.setFont(small);
     const int middle = height() / 2;
-    const QRect upper(2, 0, width() - 4, middle - kCaptionGap);
-    const QRect lower(2, middle + kCaptionGap, width() - 4, height() - middle - kCaptionGap);
+    const QRect upper(3, 0, width() - 6, middle - kCaptionGap);
+    const QRect lower(3, middle + kCaptionGap, width() - 6, height() - middle - kCaptionGap);
     if (mode == TwoValues) {
         painter.setPen(Qt::magenta);
         painter.drawText(upper, Qt::AlignHCenter | Qt::AlignTop, value1);

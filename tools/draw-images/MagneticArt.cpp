@@ -12,8 +12,9 @@ namespace {
 
 constexpr int kPressSize = 264; // shown at 132
 constexpr int kPressFrames = 10;
-constexpr qreal kTravel = 34;   // pixels from rest to the bottom
-constexpr int kIconSize = 112;  // shown at 56
+constexpr qreal kTravel = 34;    // pixels from rest to the bottom
+constexpr int kIconSize = 128;   // shown at 64
+constexpr qreal kIconGrid = 112; // the icon is drawn on this grid and scaled
 
 // ---- the pictured key, side view: cap, stem and magnet over the housing, the board with its
 // Hall sensor below; the field glows as the magnet comes near.
@@ -21,11 +22,14 @@ constexpr int kIconSize = 112;  // shown at 56
 void drawBoard(QPainter& p)
 {
     const QRectF board(22, 214, 220, 18);
-    Art::shadow(p, [&] {
-        QPainterPath path;
-        path.addRoundedRect(board, 6, 6);
-        return path;
-    }(), QPointF(0, 4), 6, Art::colour(Art::Colour::ink, 50));
+    Art::shadow(
+        p,
+        [&] {
+            QPainterPath path;
+            path.addRoundedRect(board, 6, 6);
+            return path;
+        }(),
+        QPointF(0, 4), 6, Art::colour(Art::Colour::ink, 50));
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(0x2E, 0x2E, 0x36));
     p.drawRoundedRect(board, 6, 6);
@@ -44,8 +48,8 @@ void drawField(QPainter& p, qreal strength)
         c.setAlphaF(std::min(1.0, strength * (0.95 - ring * 0.25)));
         p.setPen(Art::linePen(c, 3));
         p.setBrush(Qt::NoBrush);
-        p.drawArc(QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius),
-                  20 * 16, 140 * 16);
+        p.drawArc(QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius), 20 * 16,
+                  140 * 16);
     }
 }
 
@@ -123,7 +127,7 @@ struct TypeIcon
     int row;
     QRgb colour;
 };
-// The rows the page's buttons show, with the colours of those rows.
+// The rows the page's buttons show, with the colours the switch type table gives those rows.
 constexpr std::array<TypeIcon, 8> kIcons{{
     {1, 0xFF7969F3},
     {2, 0xFFF369A7},
@@ -135,11 +139,20 @@ constexpr std::array<TypeIcon, 8> kIcons{{
     {14, 0xFF2258A9},
 }};
 
+// The on-screen keyboard shows a type's colour with red and blue exchanged (a kept habit of the
+// key widget): the icon is drawn in the colour that keys of its row show, so that the button a
+// user picks and the keys it paints look alike.
+QColor asKeysShowIt(QRgb rgb)
+{
+    return QColor(qBlue(rgb), qGreen(rgb), qRed(rgb));
+}
+
 QImage typeIcon(QColor colour)
 {
     QImage image = Art::canvas(kIconSize, kIconSize);
     QPainter p(&image);
     Art::prepare(p);
+    p.scale(kIconSize / kIconGrid, kIconSize / kIconGrid);
     const QRectF housing(14, 14, 84, 84);
     QPainterPath outline;
     outline.addRoundedRect(housing, 18, 18);
@@ -169,9 +182,10 @@ QImage typeIcon(QColor colour)
 void saveAll(const QString& folder)
 {
     for (int i = 0; i < kPressFrames; ++i)
-        Art::save(pressFrame(i), folder + QStringLiteral("press/press%1.png").arg(i, 2, 10, QLatin1Char('0')));
+        Art::save(pressFrame(i),
+                  folder + QStringLiteral("press/press%1.png").arg(i, 2, 10, QLatin1Char('0')));
     for (const TypeIcon& icon : kIcons)
-        Art::save(typeIcon(QColor::fromRgb(icon.colour)),
+        Art::save(typeIcon(asKeysShowIt(icon.colour)),
                   folder + QStringLiteral("rt/mtico%1.png").arg(icon.row, 2, 10, QLatin1Char('0')));
 }
 
