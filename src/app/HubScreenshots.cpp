@@ -21,6 +21,7 @@
 #include "FrameMacro.h"
 #include "KeyPageShots.h"
 #include "LightPageShots.h"
+#include "MagneticShots.h"
 #include "MainWindow.h"
 #include "ModuleAddMacroSquare.h"
 #include "ModuleEfColor.h"
@@ -207,6 +208,11 @@ int main(int argc, char* argv[])
         AdvancedKeys,
         AdvancedTab,
         Light,
+        WiredCard,
+        Travel,
+        Switches,
+        Tests,
+        Calibration,
         Done
     } step = Step::Cards;
     int waited = 0;
@@ -327,7 +333,53 @@ int main(int argc, char* argv[])
             return;
         case Step::Light:
             if (!window.connection()->isIdle()) return; // the layer is written
-            result = save(window, out + QStringLiteral("/light.png")) ? 0 : 1;
+            if (!save(window, out + QStringLiteral("/light.png"))) app.exit(1);
+            // The magnetic pages on the wired keyboard: its depth stream feeds the travel test.
+            MagneticShots::leaveDevicePage(window);
+            ScriptedInput::click(window.card(0));
+            step = Step::WiredCard;
+            waited = 0;
+            return;
+        case Step::WiredCard: {
+            DialogDeviceConnect* link = window.connection();
+            if (waited < kPollMs * 5 || !link->isConnected() || !link->isIdle() ||
+                link->isWirelessConnection() || link->GetMagnetTable(0).isEmpty())
+                return;
+            MagneticShots::applyTravel(window);
+            step = Step::Travel;
+            waited = 0;
+            return;
+        }
+        case Step::Travel:
+            // The rapid trigger boxes take what was typed 300 ms after it.
+            if (waited < kPollMs * 5 || !window.connection()->isIdle()) return;
+            if (!save(window, out + QStringLiteral("/magnetic-travel.png"))) app.exit(1);
+            MagneticShots::paintSwitchTypes(window);
+            step = Step::Switches;
+            return;
+        case Step::Switches:
+            if (!window.connection()->isIdle()) return;
+            if (!save(window, out + QStringLiteral("/magnetic-switches.png"))) app.exit(1);
+            MagneticShots::startTests(window);
+            step = Step::Tests;
+            waited = 0;
+            return;
+        case Step::Tests:
+            // The stream's key goes down and up once in 1.2 s; the poll catches it part-way.
+            if (waited < kPollMs * 10 || !MagneticShots::midPress(window)) return;
+            if (!save(window, out + QStringLiteral("/magnetic-test.png"))) app.exit(1);
+            MagneticShots::startCalibration(window);
+            step = Step::Calibration;
+            waited = 0;
+            return;
+        case Step::Calibration:
+            // The simulated user presses a key every 300 ms: about a third of the board by now.
+            if (waited < 9000) return;
+            result =
+                MagneticShots::saveCalibration(window, out + QStringLiteral("/calibration.png"))
+                    ? 0
+                    : 1;
+            MagneticShots::finishCalibration(window);
             step = Step::Done;
             app.exit(result);
             return;
