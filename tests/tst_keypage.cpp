@@ -7,6 +7,7 @@
 #include "FrameDeviceHolder.h"
 #include "KeyPageRig.h"
 #include "Macro.h"
+#include "ShellRig.h"
 #include "SuperLabel.h"
 
 #include <QSignalSpy>
@@ -21,43 +22,6 @@ constexpr quint8 kA = 4;    // position 9
 constexpr quint8 kTab = 43; // position 2, nothing on the Fn layer
 
 using namespace CommandCatalogue;
-
-// The key page in the device page shell, as the hub shows it, on a read keyboard.
-struct ShellRig
-{
-    ManualClock clock;
-    VirtualHidBackend hid{&clock};
-    VirtualKeyboard* keyboard = hid.addWiredKeyboard();
-    QTemporaryDir dir;
-    ModuleMacroManager macros{dir.path()};
-    ModuleGenKeymapping keys;
-    DialogDeviceConnect link{&hid, &clock, keys, dir.filePath("device.ini"),
-                             std::make_unique<InlineHidExecutor>()};
-    FrameDeviceHolder holder{&link, keys, macros, dir.filePath("work"), &clock};
-
-    ShellRig()
-    {
-        // As the main window wires the keyboard's profile to the layer buttons.
-        QObject::connect(holder.connection(), &DialogDeviceConnect::onUpdataLayer, &holder,
-                         &FrameDeviceHolder::setLayer);
-        holder.connection()->DoConnectDevice(keyboard->vendorId(), keyboard->productId(), false,
-                                             "0AF7", QString::fromLatin1(keyboard->commandPath()));
-        settle();
-    }
-    bool settle()
-    {
-        DialogDeviceConnect* link = holder.connection();
-        return clock.advanceUntil([link] { return link->isConnected() && link->isIdle(); }, 60000,
-                                  5);
-    }
-    bool pressLayer(int layer)
-    {
-        QTest::mouseClick(
-            holder.findChild<QPushButton*>(QStringLiteral("pushButtonLayer%1").arg(layer)),
-            Qt::LeftButton);
-        return settle();
-    }
-};
 
 // The entry bytes of a 0A or 10 frame.
 QByteArray entryOf(const QByteArray& frame)

@@ -3,14 +3,8 @@
 // the firmware then holds and what the keys show.
 
 #include "CommandLayouts.h"
-#include "FrameMagic.h"
-#include "KeyPositions.h"
-#include "KeyboardButton.h"
-#include "MagnetTables.h"
-#include "ModuleKeyboard.h"
-#include "SimRig.h"
+#include "MagicPageRig.h"
 #include "SwitchTypes.h"
-#include "TestSupport.h"
 
 #include <QAbstractButton>
 #include <QGridLayout>
@@ -41,43 +35,6 @@ QList<Write> writes(const NativeKeyboardModel& fw)
         out.append({quint8(f[1]), quint8(f[3]), quint8(f[4]), CommandLayouts::leAt(f, 8, 4)});
     return out;
 }
-
-// The page on a read wired keyboard, shown, with the frames of the read forgotten.
-struct MagicRig : SimRig
-{
-    FrameMagic page{conn.get(), &clock};
-
-    MagicRig()
-    {
-        page.show();
-        keyboard->model().clearReceivedFrames();
-    }
-    template <class T = QWidget> T* find(const char* name, const char* within = nullptr) const
-    {
-        const QObject* root = within ? widget<QWidget>(&page, within) : &page;
-        return widget<T>(root, name);
-    }
-    void click(const char* name, const char* within = nullptr)
-    {
-        QTest::mouseClick(find<QAbstractButton>(name, within), Qt::LeftButton);
-    }
-    void type(const char* within, const char* edit, const QString& text)
-    {
-        auto* box = find<QLineEdit>(edit, within);
-        box->selectAll();
-        QTest::keyClicks(box, text);
-    }
-    KeyboardButton* key(quint8 code) const { return page.keyboard()->button(code); }
-    void select(std::initializer_list<quint8> codes)
-    {
-        for (quint8 code : codes)
-            QTest::mouseClick(key(code), Qt::LeftButton);
-    }
-    quint32 fwValue(quint8 table, quint8 code) const
-    {
-        return fw().magnetValue(table, PositionOfCode(code));
-    }
-};
 
 // The five writes that apply travel to one key: tables 0 to 3, then the mode byte committing.
 QList<Write> travelWrites(quint8 code, const std::array<quint32, 4>& raw, quint32 mode)
