@@ -510,11 +510,11 @@
     </message>
     <message>
         <source>磁玉pro</source>
-        <translation>Jade pro</translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉gaming</source>
-        <translation>Jade gaming</translation>
+        <translation>Jade Gaming</translation>
     </message>
     <message>
         <source>天王</source>

@@ -131,12 +131,16 @@ void KeyboardButton::setBorderColor(const QColor& colour)
     applyBorderStyle();
 }
 
-void KeyboardButton::applyBorderStyle()
+QString KeyboardButton::borderColourText(const QColor& colour)
 {
     // Deliberately blue first: red and blue change places in the colour text, and the pages
     // that colour keys count on that.
-    const QString text = QString::asprintf("#%02X%02X%02X", borderColor.blue(), borderColor.green(),
-                                           borderColor.red());
+    return QString::asprintf("#%02X%02X%02X", colour.blue(), colour.green(), colour.red());
+}
+
+void KeyboardButton::applyBorderStyle()
+{
+    const QString text = borderColourText(borderColor);
     applyStyle(QStringLiteral("QPushButton { color: %1; border: 2px solid %1; "
                               "background-color: #FBFBFB; padding: 0px; font-size: 14px; "
                               "border-radius: 10px; }")

@@ -40,6 +40,8 @@ public:
     QColor fillColour() const { return fillColor; }
     void setBorderColor(const QColor& colour);
     QColor borderColour() const { return borderColor; }
+    // The colour as a key in the coloured-border mode shows it, as style sheet text.
+    static QString borderColourText(const QColor& colour);
     void setValues2(float upper, float lower);
     void setValues3(float left, float right);
     void setValues4(float upperRight, float lowerRight, bool extra);

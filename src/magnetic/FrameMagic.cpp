@@ -59,6 +59,7 @@ QLabel[role="rowTitle"] { color: #3A3A40; font-size: 12px; }
 QLabel[role="rowEnd"] { color: #9A9AA4; font-size: 11px; }
 QLabel[role="state"] { color: #6329B6; font-size: 13px; }
 QLabel[role="typeName"] { color: #3A3A40; font-size: 12px; }
+QLabel[role="legend"] { color: #5C5C66; font-size: 12px; }
 QLabel { color: #333333; font-size: 13px; }
 QLabel:disabled { color: #B7B7B7; }
 QPushButton[role="apply"] { background-color: #6329B6; color: #FFFFFF; border: none;

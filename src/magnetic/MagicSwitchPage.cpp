@@ -1,5 +1,6 @@
 #include "MagicSwitchPage.h"
 
+#include "KeyboardButton.h"
 #include "SwitchTypes.h"
 
 #include <QButtonGroup>
@@ -34,11 +35,20 @@ MagicSwitchPage::MagicSwitchPage(QWidget* parent) : QWidget(parent)
     layout->addWidget(labelTitle1);
     layout->addWidget(label_16);
 
+    layout->addWidget(buildButtons());
+    layout->addWidget(buildLegend(), 1);
+    retranslate();
+
+    connect(buttonGroupMT, &QButtonGroup::idClicked, this, &MagicSwitchPage::onTypeClicked);
+}
+
+QWidget* MagicSwitchPage::buildButtons()
+{
     auto* card = new QFrame(this);
     card->setObjectName(QStringLiteral("frameTypes"));
     card->setProperty("role", QStringLiteral("card"));
     auto* grid = new QGridLayout(card);
-    grid->setContentsMargins(12, 0, 12, 0);
+    grid->setContentsMargins(12, 10, 12, 6);
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(4);
     buttonGroupMT = new QButtonGroup(this);
@@ -58,18 +68,41 @@ MagicSwitchPage::MagicSwitchPage(QWidget* parent) : QWidget(parent)
         name->setObjectName(QStringLiteral("labelName%1").arg(i));
         name->setProperty("role", QStringLiteral("typeName"));
         name->setAlignment(Qt::AlignCenter);
-        grid->addWidget(button, 1, i, Qt::AlignHCenter);
-        grid->addWidget(name, 2, i, Qt::AlignHCenter);
+        grid->addWidget(button, 0, i, Qt::AlignHCenter);
+        grid->addWidget(name, 1, i, Qt::AlignHCenter);
         names.append(name);
     }
-    // The buttons stand in the middle of the card's height.
-    grid->setRowStretch(0, 1);
-    grid->setRowStretch(3, 1);
     buttonGroupMT->buttons().constFirst()->setChecked(true);
-    layout->addWidget(card, 1);
-    retranslate();
+    return card;
+}
 
-    connect(buttonGroupMT, &QButtonGroup::idClicked, this, &MagicSwitchPage::onTypeClicked);
+QWidget* MagicSwitchPage::buildLegend()
+{
+    auto* card = new QFrame(this);
+    card->setObjectName(QStringLiteral("frameTypeColours"));
+    card->setProperty("role", QStringLiteral("card"));
+    auto* grid = new QGridLayout(card);
+    grid->setContentsMargins(16, 10, 16, 10);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    constexpr int kPerRow = 8;
+    for (int row = 0; row < int(SwitchTypes::kTypes.size()); ++row) {
+        auto* dot = new QLabel(card);
+        dot->setFixedSize(18, 18);
+        // The colour as the keys show it, so that a key can be told by its border.
+        dot->setStyleSheet(QStringLiteral("QLabel { border: 3px solid %1; border-radius: 5px; "
+                                          "background-color: #FBFBFB; }")
+                               .arg(KeyboardButton::borderColourText(
+                                   QColor::fromRgb(SwitchTypes::kTypes[row].colour))));
+        auto* name = new QLabel(card);
+        name->setProperty("role", QStringLiteral("legend"));
+        grid->addWidget(dot, row / kPerRow, 2 * (row % kPerRow));
+        grid->addWidget(name, row / kPerRow, 2 * (row % kPerRow) + 1);
+        legendNames.append(name);
+    }
+    for (int column = 1; column < 2 * kPerRow; column += 2)
+        grid->setColumnStretch(column, 1);
+    return card;
 }
 
 void MagicSwitchPage::onTypeClicked(int groupId)
@@ -89,6 +122,9 @@ void MagicSwitchPage::retranslate()
     for (int i = 0; i < names.size(); ++i)
         names.at(i)->setText(
             QCoreApplication::translate("FrameMagic", SwitchTypes::kButtons[i].label));
+    for (int row = 0; row < legendNames.size(); ++row)
+        legendNames.at(row)->setText(
+            QCoreApplication::translate("FrameMagic", SwitchTypes::kTypes[row].name));
 }
 
 void MagicSwitchPage::changeEvent(QEvent* event)

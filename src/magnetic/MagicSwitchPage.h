@@ -27,6 +27,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    QWidget* buildButtons();
+    QWidget* buildLegend();
     void retranslate();
     void onTypeClicked(int groupId);
 
@@ -34,4 +36,5 @@ private:
     QLabel* label_16 = nullptr;
     QButtonGroup* buttonGroupMT = nullptr;
     QList<QLabel*> names;
+    QList<QLabel*> legendNames; // every type the keyboard knows, by the colour its keys show
 };
