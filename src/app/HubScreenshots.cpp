@@ -5,9 +5,12 @@
 // (macro-insert.png), and its key page with bindings and a bubble (keys.png), the function picker
 // open over it (keypicker.png), the options panel (options.png) and the advanced keys' four tabs
 // (dks.png, modtap.png, toggle.png, snapkey.png) with the DKS travel popup (dks-travel.png), and
-// its light page with a painting and the works kept from it (light.png). orbe_hub_screenshots
-// <folder>; not installed, for the README. The hub runs on a copy of the files beside the
-// program, so that the macros recorded here stay out of the build's own.
+// its light page with a painting and the works kept from it (light.png); then, on the wired
+// keyboard, the magnetic page with travel applied (magnetic-travel.png), switch types painted
+// (magnetic-switches.png), the travel and key tests running (magnetic-test.png) and the
+// calibration part-way (calibration.png). orbe_hub_screenshots <folder>; not installed, for the
+// README. The hub runs on a copy of the files beside the program, so that the macros recorded
+// here stay out of the build's own.
 
 #include "AdvancedKeyShots.h"
 #include "AppStartup.h"
