@@ -2,6 +2,7 @@
 
 #include "Clock.h"
 #include "DialogDeviceConnect.h"
+#include "KeyboardPageFrame.h"
 #include "ModuleAdvancedKeys.h"
 #include "ModuleDeviceOptions.h"
 #include "ModuleKeyboard.h"
@@ -31,8 +32,6 @@ constexpr std::array<ModeButton, 4> kModes{{
     {"pushButtonSet4", QT_TRANSLATE_NOOP("FrameKeySetting", "Fn层设置")},
 }};
 
-constexpr QSize kModeButtonSize{120, 32};
-
 // The custom page's three steps under the note; the last is the only place that tells of the
 // right click.
 struct Step
@@ -55,14 +54,6 @@ const char* const kTitleCustom = QT_TRANSLATE_NOOP("FrameKeySetting", "自定义
 const char* const kTitleFn = QT_TRANSLATE_NOOP("FrameKeySetting", "Fn层按键设置");
 
 const char* const kPageStyle = R"(
-QFrame#frameT { background-color: #FFFFFF; border: 1px solid #EFEFEF; border-radius: 24px; }
-QFrame#frameMode, QStackedWidget#stackedWidget { background-color: #F6F6F6;
-    border-radius: 24px; }
-QFrame#frameMode QPushButton { background-color: #FFFFFF; color: #333333;
-    border: 1px solid #E2E2E2; border-radius: 16px; font-size: 14px; padding: 0px; }
-QFrame#frameMode QPushButton:hover { border-color: #6329B6; color: #6329B6; }
-QFrame#frameMode QPushButton:checked { background-color: #6329B6; border-color: #6329B6;
-    color: #FFFFFF; }
 QLabel#labelFunc { color: #1A1A1A; font-size: 18px; font-weight: 600; }
 QLabel#labelNote { color: #6B6B6B; font-size: 13px; }
 QFrame[role="step"] { background-color: #FFFFFF; border-radius: 16px; }
@@ -100,32 +91,19 @@ FrameKeySetting::~FrameKeySetting() = default;
 
 void FrameKeySetting::buildForm()
 {
-    setStyleSheet(QLatin1String(kPageStyle));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 20);
-    layout->setSpacing(16);
-
-    auto* frameT = new QFrame(this);
-    frameT->setObjectName(QStringLiteral("frameT"));
-    auto* topLayout = new QHBoxLayout(frameT);
-    topLayout->setContentsMargins(0, 4, 0, 0);
-    frameKeyboard = new ModuleKeyboard(device, clock, frameT);
-    frameKeyboard->setObjectName(QStringLiteral("frameKeyboard"));
-    frameKeyboard->setFixedSize(960, 400);
-    topLayout->addWidget(frameKeyboard, 0, Qt::AlignCenter);
-    layout->addWidget(frameT);
-
-    auto* frameB = new QFrame(this);
-    frameB->setObjectName(QStringLiteral("frameB"));
-    auto* bottomLayout = new QHBoxLayout(frameB);
-    bottomLayout->setContentsMargins(0, 0, 0, 0);
-    bottomLayout->setSpacing(16);
-    bottomLayout->addWidget(buildModeColumn());
-
-    stackedWidget = new QStackedWidget(frameB);
-    stackedWidget->setObjectName(QStringLiteral("stackedWidget"));
+    QStringList modeNames;
+    for (const ModeButton& m : kModes)
+        modeNames << QLatin1String(m.name);
+    const KeyboardPageFrame::Parts parts =
+        KeyboardPageFrame::build(this, device, clock, QSize(960, 400), QStringLiteral("frameMode"),
+                                 QStringLiteral("buttonGroupMode"), modeNames);
+    setStyleSheet(KeyboardPageFrame::styleSheet(QStringLiteral("frameMode")) +
+                  QLatin1String(kPageStyle));
+    frameKeyboard = parts.keyboard;
+    buttonGroupMode = parts.group;
+    stackedWidget = parts.stack;
     stackedWidget->addWidget(buildCustomPage());
-    advanced = new ModuleAdvancedKeys(device, keys, clock, this, frameT, stackedWidget);
+    advanced = new ModuleAdvancedKeys(device, keys, clock, this, parts.card, stackedWidget);
     stackedWidget->addWidget(advanced);
     auto* page3 = new QWidget(stackedWidget);
     page3->setObjectName(QStringLiteral("page3"));
@@ -135,32 +113,6 @@ void FrameKeySetting::buildForm()
         device, [this] { return refreshing; }, page3);
     page3Layout->addWidget(options);
     stackedWidget->addWidget(page3);
-    bottomLayout->addWidget(stackedWidget, 1);
-    layout->addWidget(frameB, 1);
-}
-
-QWidget* FrameKeySetting::buildModeColumn()
-{
-    auto* frameMode = new QFrame(this);
-    frameMode->setObjectName(QStringLiteral("frameMode"));
-    frameMode->setFixedWidth(168);
-    auto* layout = new QVBoxLayout(frameMode);
-    layout->setContentsMargins(24, 24, 24, 24);
-    layout->setSpacing(14);
-    buttonGroupMode = new QButtonGroup(this);
-    buttonGroupMode->setObjectName(QStringLiteral("buttonGroupMode"));
-    for (int id = 0; id < int(kModes.size()); ++id) {
-        auto* button = new QPushButton(frameMode);
-        button->setObjectName(QLatin1String(kModes[id].name));
-        button->setFixedSize(kModeButtonSize);
-        button->setCheckable(true);
-        button->setFocusPolicy(Qt::NoFocus);
-        button->setCursor(Qt::PointingHandCursor);
-        buttonGroupMode->addButton(button, id);
-        layout->addWidget(button);
-    }
-    layout->addStretch(1);
-    return frameMode;
 }
 
 QWidget* FrameKeySetting::buildCustomPage()

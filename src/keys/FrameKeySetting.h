@@ -49,7 +49,6 @@ protected:
 
 private:
     void buildForm();
-    QWidget* buildModeColumn();
     QWidget* buildCustomPage();
     void retranslate();
     void onModeChanged(int id);

@@ -4,6 +4,7 @@
 #include "DialogDeviceConnect.h"
 #include "KeyPositions.h"
 #include "KeyboardButton.h"
+#include "KeyboardPageFrame.h"
 #include "MagicDeadZonePage.h"
 #include "MagicStabPage.h"
 #include "MagicSwitchPage.h"
@@ -15,11 +16,9 @@
 
 #include <QButtonGroup>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 #include <array>
 
 namespace {
@@ -42,14 +41,6 @@ constexpr quint32 kFullTravelFlag = 0x80;
 constexpr int kFirstButton = 0; // the switch page's first type, chosen at the start
 
 const char* const kPageStyle = R"(
-QFrame#frameT { background-color: #FFFFFF; border: 1px solid #EFEFEF; border-radius: 24px; }
-QFrame#frameSet, QStackedWidget#stackedWidget { background-color: #F6F6F6;
-    border-radius: 24px; }
-QFrame#frameSet QPushButton { background-color: #FFFFFF; color: #333333;
-    border: 1px solid #E2E2E2; border-radius: 16px; font-size: 14px; padding: 0px; }
-QFrame#frameSet QPushButton:hover { border-color: #6329B6; color: #6329B6; }
-QFrame#frameSet QPushButton:checked { background-color: #6329B6; border-color: #6329B6;
-    color: #FFFFFF; }
 QFrame[role="card"] { background-color: #FFFFFF; border-radius: 16px; }
 QLabel[role="pageTitle"] { color: #1A1A1A; font-size: 18px; font-weight: 600; }
 QLabel[role="cardTitle"] { color: #1A1A1A; font-size: 14px; font-weight: 600; }
@@ -126,31 +117,20 @@ FrameMagic::~FrameMagic() = default;
 
 void FrameMagic::buildForm(Clock* clock)
 {
-    setStyleSheet(QLatin1String(kPageStyle));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 20);
-    layout->setSpacing(16);
-
-    auto* frameT = new QFrame(this);
-    frameT->setObjectName(QStringLiteral("frameT"));
-    auto* topLayout = new QHBoxLayout(frameT);
-    topLayout->setContentsMargins(0, 4, 0, 0);
-    frameKeyboard = new ModuleKeyboard(device, clock, frameT);
-    frameKeyboard->setObjectName(QStringLiteral("frameKeyboard"));
-    frameKeyboard->setFixedSize(960, 350);
+    QStringList names;
+    for (int id = 0; id < kPages; ++id)
+        names << QStringLiteral("pushButtonSet%1").arg(id);
+    // The keyboard is lower than on the key page: its legend doesn't show here.
+    const KeyboardPageFrame::Parts parts =
+        KeyboardPageFrame::build(this, device, clock, QSize(960, 350), QStringLiteral("frameSet"),
+                                 QStringLiteral("buttonGroupSet"), names);
+    setStyleSheet(KeyboardPageFrame::styleSheet(QStringLiteral("frameSet")) +
+                  QLatin1String(kPageStyle));
+    frameKeyboard = parts.keyboard;
+    buttonGroupSet = parts.group;
+    stackedWidget = parts.stack;
     // Many keys at a time: by clicks or with a rubber band.
     frameKeyboard->setSelectionLimit(ModuleKeyboard::kDefaultSelectionLimit);
-    topLayout->addWidget(frameKeyboard, 0, Qt::AlignCenter);
-    layout->addWidget(frameT);
-
-    auto* frameB = new QFrame(this);
-    frameB->setObjectName(QStringLiteral("frameB"));
-    auto* bottomLayout = new QHBoxLayout(frameB);
-    bottomLayout->setContentsMargins(0, 0, 0, 0);
-    bottomLayout->setSpacing(16);
-    bottomLayout->addWidget(buildNavigation());
-    stackedWidget = new QStackedWidget(frameB);
-    stackedWidget->setObjectName(QStringLiteral("stackedWidget"));
     page0 = new MagicTravelPage(clock, stackedWidget);
     page1 = new MagicDeadZonePage(stackedWidget);
     page2 = new MagicSwitchPage(stackedWidget);
@@ -160,32 +140,6 @@ void FrameMagic::buildForm(Clock* clock)
          {static_cast<QWidget*>(page0), static_cast<QWidget*>(page1), static_cast<QWidget*>(page2),
           static_cast<QWidget*>(page3), static_cast<QWidget*>(page4)})
         stackedWidget->addWidget(page);
-    bottomLayout->addWidget(stackedWidget, 1);
-    layout->addWidget(frameB, 1);
-}
-
-QWidget* FrameMagic::buildNavigation()
-{
-    auto* frameSet = new QFrame(this);
-    frameSet->setObjectName(QStringLiteral("frameSet"));
-    frameSet->setFixedWidth(168);
-    auto* layout = new QVBoxLayout(frameSet);
-    layout->setContentsMargins(24, 24, 24, 24);
-    layout->setSpacing(14);
-    buttonGroupSet = new QButtonGroup(this);
-    buttonGroupSet->setObjectName(QStringLiteral("buttonGroupSet"));
-    for (int id = 0; id < kPages; ++id) {
-        auto* button = new QPushButton(frameSet);
-        button->setObjectName(QStringLiteral("pushButtonSet%1").arg(id));
-        button->setFixedSize(120, 32);
-        button->setCheckable(true);
-        button->setFocusPolicy(Qt::NoFocus);
-        button->setCursor(Qt::PointingHandCursor);
-        buttonGroupSet->addButton(button, id);
-        layout->addWidget(button);
-    }
-    layout->addStretch(1);
-    return frameSet;
 }
 
 int FrameMagic::currentPage() const

@@ -44,7 +44,6 @@ protected:
 
 private:
     void buildForm(Clock* clock);
-    QWidget* buildNavigation();
     void retranslate();
     void onPageClicked(int id);
     void showCaptions(int page);
