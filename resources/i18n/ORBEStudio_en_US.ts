@@ -684,7 +684,7 @@
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation>The travel between bottoming out and the start of a release is called the "dead zone". Dead zones keep a magnetic switch from dropping out under outside interference. The bottom of a magnetic switch can be set to suit you; within a dead zone the key does not trigger.</translation>
+        <translation>The travel between bottoming out and the start of a release is called the &quot;dead zone&quot;. Dead zones keep a magnetic switch from dropping out under outside interference. The bottom of a magnetic switch can be set to suit you; within a dead zone the key does not trigger.</translation>
     </message>
     <message>
         <source>设置</source>
