@@ -32,9 +32,6 @@ public:
 
     ModuleKeyboard* keyboard() const { return frameKeyboard; }
     int currentPage() const;
-    // The switch type that a click on a key writes while the switch page shows, and its colour.
-    quint8 paintType() const { return switchType; }
-    QColor paintColour() const { return colour; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -54,6 +51,7 @@ private:
     void onReadDone();
 
     DialogDeviceConnect* device;
+    // The switch type a click on a key writes while the switch page shows, and its colour.
     QColor colour;
     quint8 switchType = 0;
 

@@ -32,10 +32,6 @@ public:
     // scan code.
     static QString keyName(const QKeyEvent& event);
 
-    // The pictured key's frame: 9 at rest, 0 at the bottom.
-    int pressFrame() const { return frame; }
-    const QStringList& heldKeys() const { return held; }
-
 signals:
     void keyTestSwitched(bool on);
 
@@ -65,5 +61,5 @@ private:
     QScrollArea* scrollArea1 = nullptr;
     QGridLayout* gridLayout_2 = nullptr;
     QStringList held;
-    int frame = kPressFrames - 1;
+    int frame = kPressFrames - 1; // the pictured key's: 9 at rest, 0 at the bottom
 };
