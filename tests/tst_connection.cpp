@@ -4,12 +4,27 @@
 #include "ConnectionRig.h"
 #include "DeviceLink.h"
 #include "Frame.h"
+#include "HidIoThread.h"
 
 #include <QSettings>
 #include <QSignalSpy>
 #include <QtTest>
+#include <atomic>
 
 namespace {
+
+// The scripted backend, with a count of feature sends that another thread may read.
+struct CountingHid : FakeHidBackend
+{
+    using FakeHidBackend::FakeHidBackend;
+    std::atomic<int> sends{0};
+    int sendFeatureReport(HidHandle* h, const quint8* data, size_t length) override
+    {
+        const int n = FakeHidBackend::sendFeatureReport(h, data, length);
+        ++sends;
+        return n;
+    }
+};
 
 // A keyboard that names itself, firmware 0x300, and echoes every other command.
 struct Rig : ConnectionRig
@@ -386,6 +401,47 @@ private slots:
             QCOMPARE(read.handle, opened.at(2));
         }
         QCOMPARE(clock.elapsedMs(), start + 200);
+    }
+
+    // On the I/O thread a round waits out its pauses there. The effect going off, or the
+    // handles closing, cuts it after the read it is at; either way it reports its end, so that
+    // the music timer goes on.
+    void musicRoundCut_data()
+    {
+        QTest::addColumn<bool>("closeHandles");
+        QTest::newRow("effect off") << false;
+        QTest::newRow("handles closed") << true;
+    }
+    void musicRoundCut()
+    {
+        QFETCH(bool, closeHandles);
+        ManualClock clock;
+        CountingHid hid(&clock);
+        hid.addWiredKeyboard();
+        HidIoThread io;
+        DeviceLink link(hid, clock, io);
+        bool opened = false;
+        link.openWired(0x3151, 0x502F, [&](DeviceLink::WiredOpen o) { opened = o.complete(); });
+        QTRY_VERIFY(opened);
+
+        bool done = false;
+        link.sendMusicRound(hex("00 0D 05"), 10, 20, [&] { done = true; });
+        QTRY_COMPARE(hid.sends.load(), 1); // and now waiting on the clock
+        if (closeHandles)
+            link.closeHandles();
+        else
+            link.stopMusicRound();
+        for (int i = 0; i < 100 && !done; ++i) {
+            clock.advance(20);
+            QTest::qWait(2);
+        }
+        QVERIFY(done);
+        bool drained = false; // the handles' close too, before the log is read here
+        io.submit([] {}, [&] { drained = true; });
+        QTRY_VERIFY(drained);
+        QCOMPARE(hid.sends.load(), 1);
+        QCOMPARE(hid.count("feature<"), 1);
+        QVERIFY(link.isIdle());
     }
 
     void consoleWrite()

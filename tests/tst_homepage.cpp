@@ -1,7 +1,8 @@
-// The device home page against the virtual keyboard: the lighting panel's effects, colours,
-// levels and side light as frames and as the firmware's LED state, the keyboard's own values
-// shown without being written back, and the travel for all keys at once (key code FF) reaching
-// every key of the firmware while the connection's cache stays as it was.
+// The device home page against the virtual keyboard: the lighting panel's effects (music's
+// reports among them), colours, levels and side light as frames and as the firmware's LED
+// state, the keyboard's own values shown without being written back, and the travel for all
+// keys at once (key code FF) reaching every key of the firmware while the connection's cache
+// stays as it was.
 
 #include "ColorSquare.h"
 #include "DialogColorPicker.h"
@@ -30,6 +31,7 @@ constexpr quint8 kLedParam = 0x07;
 constexpr quint8 kSideLed = 0x08;
 constexpr quint8 kLedOnOff = 0x05;
 constexpr quint8 kWriteMagnetism = 0x65;
+constexpr quint8 kMusic = 0x0D;
 
 // The home page on a read keyboard, shown, with what was sent so far forgotten.
 struct HomeRig : SimRig
@@ -129,6 +131,11 @@ private slots:
         QCOMPARE(rig.fw().ledEffect(), quint8(effect));
         QCOMPARE(rig.fw().ledParams(quint8(effect)).option, quint8(heads.last().at(4)));
         QCOMPARE(rig.conn->IsMusicOn(), music);
+        // Music alone starts the rounds of ten reports (silence: no capture here).
+        rig.clock.advance(500);
+        const int reports = int(framesOf(rig.fw(), kMusic).size());
+        QCOMPARE(reports >= 2 * 10, music);
+        QCOMPARE(reports % 10, 0);
     }
 
     // Effect, brightness, speed and a colour from the square, one after the other: each frame

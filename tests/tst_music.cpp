@@ -1,20 +1,49 @@
 // The music report: levels from the captured block, quirks included; the report's bytes; the
 // block's fixed copy; the virtual keyboard taking the report on a second handle of its command
-// interface.
+// interface; the connection's rounds while the music effect is chosen, their pacing, and what
+// stops them.
 
+#include "AudioCapture.h"
 #include "AudioSampleBlock.h"
+#include "ConnectionRig.h"
 #include "Frame.h"
 #include "ManualClock.h"
 #include "MusicReport.h"
+#include "SimRig.h"
 #include "TestSupport.h"
 #include "VirtualHidBackend.h"
 
 #include <QtTest>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <vector>
 
 namespace {
+
+constexpr int kMusicEffect = 22;
+constexpr quint8 kMusicCommand = 0x0D;
+
+// A capture the test fills by hand.
+class FedCapture : public AudioCapture
+{
+public:
+    void start() override {}
+    void feed(const std::vector<float>& block) { samples.write(block.data(), block.size()); }
+};
+
+// A block whose first 22 samples give the levels 0 to 6 over and over, with both signs.
+std::vector<float> steps()
+{
+    const float values[7] = {0.0f, 0.2f, 0.4f, 0.5f, 0.7f, 0.9f, 1.0f};
+    std::vector<float> block(AudioSampleBlock::kSamples, 0.25f);
+    for (int i = 0; i < MusicReport::kLevelCount; ++i)
+        block[std::size_t(i)] = values[i % 7] * (i % 2 ? -1.0f : 1.0f);
+    return block;
+}
+const char* const kStepLevels = "00 01 02 03 04 05 06 00 01 02 03 04 05 06 00 01 02 03 04 05 06 00";
+
+using RigAction = std::function<void(SimRig&)>;
 
 MusicReport::Levels levelsOf(std::initializer_list<int> values)
 {
@@ -39,6 +68,8 @@ std::vector<float> ramp(int count, float first, float step)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(RigAction)
 
 class TestMusic : public QObject
 {
@@ -178,6 +209,92 @@ private slots:
         QCOMPARE(reply[1], quint8(0x86));
         QCOMPARE(reply[2], kb->model().debounce());
         QCOMPARE(kb->model().receivedFrames().size(), 1 + MusicReport::kReportsPerRound);
+    }
+
+    // With the effect chosen, a round starts within one tick of the timer: ten alike reports on
+    // the music handle, 20 ms apart, each followed by its read there, the next round 20 ms
+    // after the last read. Each round carries the block as it was when it began, silence too.
+    void roundsPacedOnTheMusicHandle()
+    {
+        ConnectionRig rig;
+        FedCapture capture;
+        rig.conn->setAudioCapture(&capture);
+        rig.connectWired();
+        rig.clock.advance(3000);
+        rig.hid.log.clear();
+        const qint64 chosen = rig.clock.elapsedMs();
+        rig.conn->DoSetLedEffect(kMusicEffect, 0);
+        rig.clock.advance(MusicReport::kRoundPauseMs + 200);
+        capture.feed(steps());
+        rig.clock.advance(440);
+
+        const HidHandle* commandHandle = rig.hid.log.first().handle; // the effect's 07 frame
+        QCOMPARE(rig.hid.log.first().bytes.at(1), char(0x07));
+        QList<FakeHidBackend::Transfer> music;
+        for (const auto& t : rig.hid.log)
+            if (t.handle != commandHandle && t.kind.startsWith("feature")) music.append(t);
+        QCOMPARE(music.size(), 3 * 2 * MusicReport::kReportsPerRound);
+        const qint64 first = music.first().at;
+        QVERIFY(first >= chosen && first <= chosen + MusicReport::kRoundPauseMs);
+        const QByteArray head = hex("00 0D 00 00 00 00 00 00 F2");
+        for (int round = 0; round < 3; ++round) {
+            const QByteArray levels = round == 0 ? QByteArray(22, '\0') : hex(kStepLevels);
+            for (int i = 0; i < MusicReport::kReportsPerRound; ++i) {
+                const auto& send = music.at((round * MusicReport::kReportsPerRound + i) * 2);
+                const auto& read = music.at((round * MusicReport::kReportsPerRound + i) * 2 + 1);
+                QCOMPARE(send.kind, QString("feature>"));
+                QCOMPARE(send.bytes.toHex(' '), (head + levels).leftJustified(65, '\0').toHex(' '));
+                QCOMPARE(send.at, first + round * 220 + i * MusicReport::kReportPauseMs);
+                QCOMPARE(read.kind, QString("feature<"));
+                QCOMPARE(read.handle, send.handle);
+                QCOMPARE(read.at, send.at + MusicReport::kReportPauseMs);
+            }
+        }
+    }
+
+    // The rounds reach the keyboard's music levels until the effect changes, the keyboard is
+    // read again (its effect stays music) or a picture is written; a wireless connection has no
+    // music handle and sends none, while the effect itself goes out.
+    void whatStopsTheRounds_data()
+    {
+        QTest::addColumn<bool>("wireless");
+        QTest::addColumn<RigAction>("action");
+        QTest::addColumn<int>("effectAfter");
+        QTest::addColumn<bool>("musicOnAfter");
+        QTest::newRow("another effect")
+            << false << RigAction([](SimRig& r) { r.conn->DoSetLedEffect(5, 0); }) << 5 << false;
+        QTest::newRow("read again")
+            << false << RigAction([](SimRig& r) { r.conn->DoReadAll(); }) << kMusicEffect << false;
+        QTest::newRow("picture written") << false << RigAction([](SimRig& r) {
+            r.conn->DoWriteUserPic(2, QByteArray(384, '\x40'));
+        }) << 13 << false;
+        QTest::newRow("wireless") << true << RigAction([](SimRig&) {}) << kMusicEffect << true;
+    }
+    void whatStopsTheRounds()
+    {
+        QFETCH(bool, wireless);
+        QFETCH(RigAction, action);
+        QFETCH(int, effectAfter);
+        QFETCH(bool, musicOnAfter);
+        SimRig rig(wireless);
+        FedCapture capture;
+        capture.feed(steps());
+        rig.conn->setAudioCapture(&capture);
+        rig.conn->DoSetLedEffect(kMusicEffect, 0);
+        rig.clock.advance(500);
+        QCOMPARE(rig.fw().ledEffect(), quint8(kMusicEffect));
+        QCOMPARE(framesOf(rig.fw(), kMusicCommand).size(),
+                 wireless ? 0 : 3 * MusicReport::kReportsPerRound);
+        QCOMPARE(rig.fw().musicLevels().toHex(' '),
+                 wireless ? QByteArray(22, '\0').toHex(' ') : hex(kStepLevels).toHex(' '));
+
+        action(rig);
+        QVERIFY(rig.settle());
+        rig.keyboard->model().clearReceivedFrames();
+        rig.clock.advance(1000);
+        QCOMPARE(framesOf(rig.fw(), kMusicCommand).size(), 0);
+        QCOMPARE(rig.fw().ledEffect(), quint8(effectAfter));
+        QCOMPARE(rig.conn->IsMusicOn(), musicOnAfter);
     }
 };
 

@@ -21,10 +21,7 @@ constexpr int kChecksumOffset = 7;
 constexpr int kPayloadOffset = 8;
 constexpr int kPagePayload = 56; // bytes a paged write carries per frame
 
-// LED effects that change what the connection does.
-constexpr int kEffectUserPicture = 13; // its option byte carries the picture's slot alone
-constexpr int kEffectMusic = 22;       // the music report runs while it is chosen
-constexpr int kLedSpeedSteps = 4;      // the keyboard counts LED speed down from here
+constexpr int kLedSpeedSteps = 4; // the keyboard counts LED speed down from here
 
 // ---- Reads with arguments: an eight-byte head.
 

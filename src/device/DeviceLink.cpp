@@ -225,20 +225,29 @@ void DeviceLink::sendMusicRound(const QByteArray& wrappedReport, int times, int 
 {
     if (!musicHandle) return;
     HidHandle* handle = musicHandle;
-    job<bool>(
-        [&backend = hid, &wait = clock, handle, wrappedReport, times, gapMs] {
+    musicStop = std::make_shared<std::atomic<bool>>(false);
+    ++jobsUnderWay;
+    io.submit(
+        [&backend = hid, &wait = clock, gen = generation, armed = quint64(*generation),
+         stop = musicStop, handle, wrappedReport, times, gapMs] {
             const auto* bytes = reinterpret_cast<const quint8*>(wrappedReport.constData());
-            for (int i = 0; i < times; ++i) {
+            // A send is always followed by its read; the round ends early only between two.
+            for (int i = 0; i < times && *gen == armed && !*stop; ++i) {
                 backend.sendFeatureReport(handle, bytes, size_t(wrappedReport.size()));
                 wait.sleepMs(gapMs);
                 quint8 answer[Frame::kReplyBufferSize] = {}; // read and dropped
                 backend.getFeatureReport(handle, answer, Frame::kWiredLength);
             }
-            return true;
         },
-        [done](bool) {
+        [this, done = std::move(done)] {
+            --jobsUnderWay;
             if (done) done();
         });
+}
+
+void DeviceLink::stopMusicRound()
+{
+    if (musicStop) *musicStop = true;
 }
 
 // ---------------------------------------------------------------- input stream

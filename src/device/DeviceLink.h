@@ -77,10 +77,15 @@ public:
 
     // The music report's round on its own handle: times over, send the wrapped report, wait
     // gapMs on the clock, read the answer and drop it. It runs as one job, so the queue's
-    // frames wait behind it as they would behind the round on one thread; done comes back here
-    // afterwards. Nothing happens without the music handle (a wireless connection has none).
+    // frames wait behind it as they would behind the round on one thread. done comes back here
+    // when the round is over, whole or cut (below), or the connection changed meanwhile.
+    // Nothing happens without the music handle (a wireless connection has none).
     void sendMusicRound(const QByteArray& wrappedReport, int times, int gapMs,
                         std::function<void()> done = {});
+    bool hasMusicHandle() const { return musicHandle != nullptr; }
+    // Cuts the round under way after the read it is at: the effect went off, so the keyboard's
+    // next frames need not wait for the rest of it.
+    void stopMusicRound();
 
     // The read sequence's flag: the input poll waits while it is up, and the pump step that
     // finds the queue empty reports the end of the sequence.
@@ -131,6 +136,8 @@ private:
     // Bumped whenever the handles close; a job or step of an older connection does nothing.
     // The executor's side reads it, hence atomic.
     std::shared_ptr<std::atomic<quint64>> generation;
+    // Set to cut the music round under way; each round gets its own.
+    std::shared_ptr<std::atomic<bool>> musicStop;
     int armedSteps = 0;
     int jobsUnderWay = 0;
     int ownerSteps = 0;

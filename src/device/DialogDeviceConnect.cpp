@@ -7,6 +7,7 @@
 #include "HidIoThread.h"
 #include "KeyOps.h"
 #include "MagnetismOps.h"
+#include "MusicTimer.h"
 #include "ReadSequence.h"
 #include "ReplyDispatch.h"
 #include "SettingsOps.h"
@@ -30,6 +31,7 @@ DialogDeviceConnect::DialogDeviceConnect(HidBackend* hid, Clock* clock,
     keyOps = std::make_unique<KeyOps>(parts);
     magnetism = std::make_unique<MagnetismOps>(parts);
     transfers = std::make_unique<TransferOps>(parts);
+    music = std::make_unique<MusicTimer>(parts);
 
     data.restoreDefaultMatrices();
     link->setHooks({
@@ -44,6 +46,11 @@ DialogDeviceConnect::~DialogDeviceConnect()
     // The closes are queued behind the executor's last jobs; it waits for them as it goes.
     link->closeHandles();
     io.reset();
+}
+
+void DialogDeviceConnect::setAudioCapture(const AudioCapture* capture)
+{
+    music->setCapture(capture);
 }
 
 // ---------------------------------------------------------------- connection and queue

@@ -11,6 +11,7 @@
 #include <array>
 #include <memory>
 
+class AudioCapture;
 class Clock;
 class ConnectSteps;
 class ConsoleModel;
@@ -19,6 +20,7 @@ class HidBackend;
 class KeyOps;
 class MagnetismOps;
 class ModuleGenKeymapping;
+class MusicTimer;
 class ReadSequence;
 class ReplyDispatch;
 class SettingsOps;
@@ -31,6 +33,7 @@ class TransferOps;
 //   DeviceCache     plain data that the reply dispatch fills and the Do* operations update
 //   ReplyDispatch   what each reply means, by the command sent last
 //   the groups      ConnectSteps, ReadSequence, SettingsOps, KeyOps, MagnetismOps, TransferOps
+//   MusicTimer      the music report's rounds while the music effect is chosen
 //   ConsoleModel    what the engineering console shows, and device.ini
 // Whoever builds the window builds this and passes it down. Use it on the thread that made it.
 class DialogDeviceConnect : public QObject
@@ -50,6 +53,10 @@ public:
                         QObject* parent = nullptr);
     // Closes the handles and waits for the I/O thread's last call.
     ~DialogDeviceConnect() override;
+
+    // What the music effect shows: the capture's latest samples, read at each round. Without
+    // one the effect sends silence. The capture must outlive the connection.
+    void setAudioCapture(const AudioCapture* capture);
 
     // ---- Connection and queue
     void DoConnectDevice(quint16 vid, quint16 pid, bool isWireless, const QString& idText,
@@ -179,4 +186,5 @@ private:
     std::unique_ptr<KeyOps> keyOps;
     std::unique_ptr<MagnetismOps> magnetism;
     std::unique_ptr<TransferOps> transfers;
+    std::unique_ptr<MusicTimer> music;
 };

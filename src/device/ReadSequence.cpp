@@ -41,6 +41,7 @@ void ReadSequence::DoReadAll()
     emit p.front.onReadAll();
     p.link.setReadingAll(true);
     p.cache.musicOn = false; // only a new choice of the effect starts the music report again
+    p.link.stopMusicRound();
     p.link.clearQueue();
     // The version is not asked again: it reads 0 until the next connect.
     p.cache.travelScale = 10;

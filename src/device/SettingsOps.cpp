@@ -4,6 +4,7 @@
 #include "ConsoleModel.h"
 #include "DeviceCache.h"
 #include "DeviceLink.h"
+#include "EffectCatalogue.h"
 #include "Frame.h"
 
 using namespace CommandLayouts;
@@ -58,9 +59,11 @@ void SettingsOps::DoSetLedOnOff(bool off)
 
 void SettingsOps::DoSetLedEffect(int effect, quint8 option)
 {
-    p.cache.musicOn = effect == kEffectMusic;
+    p.cache.musicOn = effect == EffectCatalogue::kMusic;
+    if (!p.cache.musicOn) p.link.stopMusicRound();
     // The low nibble 7 marks a colour option; the user picture carries only its slot.
-    const int optionByte = option * 16 + (effect == kEffectUserPicture ? 0 : kColourOptionLow);
+    const int optionByte =
+        option * 16 + (effect == EffectCatalogue::kUserPicture ? 0 : kColourOptionLow);
     writeRowCells(CMD_SET_LEDPARAM, {{1, effect}, {4, optionByte}});
 }
 

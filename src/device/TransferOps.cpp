@@ -4,6 +4,7 @@
 #include "DeviceCache.h"
 #include "DeviceLink.h"
 #include "DialogDeviceConnect.h"
+#include "EffectCatalogue.h"
 #include "MacroBlob.h"
 
 #include <algorithm>
@@ -43,7 +44,7 @@ void TransferOps::DoWriteUserPic(quint8 slot, const QByteArray& colourMap)
     if (p.link.isReadingAll()) return;
     p.cache.musicOn = false;
     // Switch the effect to this slot's picture first; the pages follow.
-    p.front.DoSetLedEffect(kEffectUserPicture, slot);
+    p.front.DoSetLedEffect(EffectCatalogue::kUserPicture, slot);
     for (u8 page = 0; page < kPictureWritePages; ++page) {
         PictureWrite c{
             .slot = slot, .page = page, .last = u8(page == kPictureWritePages - 1 ? 1 : 0)};
