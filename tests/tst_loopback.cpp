@@ -1,10 +1,16 @@
 // The loopback capture on a real sound server: a private PulseAudio with a null sink, a tone
-// played into it, the levels that come out of the capture. Skipped, saying why, where PulseAudio,
-// paplay or sox are missing or the daemon won't start. The one real-time test of the music path.
+// played into it, the levels that come out of the capture and reach the virtual keyboard through
+// the connection. Skipped, saying why, where PulseAudio, paplay or sox are missing or the daemon
+// won't start. The one real-time test of the music path.
 
 #include "AudioLog.h"
+#include "Clock.h"
+#include "DialogDeviceConnect.h"
+#include "ModuleGenKeymapping.h"
 #include "MusicReport.h"
 #include "PulseLoopbackCapture.h"
+#include "SimRig.h"
+#include "VirtualHidBackend.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -17,6 +23,9 @@ namespace {
 
 constexpr int kDaemonStartMs = 10000;
 constexpr int kFirstLevelsMs = 15000; // the first read can take a few seconds
+constexpr int kMusicEffect = 22;
+constexpr int kStaticEffect = 1;
+constexpr quint8 kMusicCommand = 0x0D;
 
 std::atomic<int> startErrors{0};
 QtMessageHandler previousHandler = nullptr;
@@ -121,22 +130,43 @@ private slots:
         daemon.waitForFinished(2000);
     }
 
-    // Silence on the idle sink, then the tone's samples: non-zero levels come out of the
-    // capture, and it stops cleanly while the tone still plays.
-    void toneGivesLevels()
+    // The whole road in real time: the idle sink's silence, then a tone, through the capture,
+    // the connection's rounds on its I/O thread and the virtual keyboard's music levels. The
+    // keyboard's state is read with the rounds stopped and the connection idle.
+    void toneReachesTheKeyboard()
     {
         startErrors = 0;
         auto capture = std::make_unique<PulseLoopbackCapture>(server);
         capture->start();
         QTRY_VERIFY_WITH_TIMEOUT(capture->isStreaming(), kFirstLevelsMs);
+
+        VirtualHidBackend hid(QtClock::shared());
+        VirtualKeyboard* keyboard = hid.addWiredKeyboard();
+        ModuleGenKeymapping keys;
+        DialogDeviceConnect conn(&hid, QtClock::shared(), keys, dir.filePath("device.ini"));
+        conn.setAudioCapture(capture.get());
+        conn.connectStep();
+        QTRY_VERIFY_WITH_TIMEOUT(conn.isConnected() && conn.isIdle(), 10000);
+        auto playFor = [&](int ms) {
+            keyboard->model().clearReceivedFrames();
+            conn.DoSetLedEffect(kMusicEffect, 0);
+            QTest::qWait(ms);
+            conn.DoSetLedEffect(kStaticEffect, 0);
+            QTRY_VERIFY_WITH_TIMEOUT(conn.isIdle(), 5000);
+            QVERIFY(framesOf(keyboard->model(), kMusicCommand).size() >= 10);
+        };
         QTest::qWait(300);
         QVERIFY2(!anyLevel(*capture), "an idle null sink's monitor is silent");
+        playFor(700);
+        QCOMPARE(keyboard->model().musicLevels(), QByteArray(22, '\0'));
 
         QProcess player;
         player.setProcessEnvironment(clientEnvironment());
         player.start(tool("paplay"), {tone});
         QVERIFY(player.waitForStarted());
         QTRY_VERIFY_WITH_TIMEOUT(anyLevel(*capture), kFirstLevelsMs);
+        playFor(700);
+        QVERIFY(keyboard->model().musicLevels().count('\0') < 22);
         QVERIFY(!capture->hasFailed());
         QCOMPARE(startErrors.load(), 0);
 

@@ -125,7 +125,7 @@ rm -rf "$build/packages"
 deb=$(ls "$build"/packages/orbehub_*.deb)
 [ "$(dpkg-deb -f "$deb" Package)" = orbehub ] || fail "the package is not named orbehub"
 depends=$(dpkg-deb -f "$deb" Depends)
-for dependency in libqt6widgets6 libhidapi-hidraw0 libudev1 qt6-qpa-plugins; do
+for dependency in libqt6widgets6 libhidapi-hidraw0 libudev1 libpulse0 qt6-qpa-plugins; do
   [[ $depends == *"$dependency"* ]] || fail "the package does not depend on $dependency: $depends"
 done
 contents=$(dpkg-deb -c "$deb")

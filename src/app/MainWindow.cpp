@@ -14,6 +14,7 @@
 #include "HidExecutor.h"
 #include "InstallLayout.h"
 #include "LightWorkStore.h"
+#include "LoopbackCapture.h"
 #include "ModuleLangMenu.h"
 #include "ModuleMacroManager.h"
 #include "OrbeDeviceBase.h"
@@ -121,6 +122,13 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Platform& system, Cl
                                   ? InstallLayout().settingsFile(QStringLiteral("device.ini"))
                                   : appDir + QStringLiteral("/config/device.ini");
     link = std::make_unique<DialogDeviceConnect>(hid.get(), clock, keys, deviceIni, std::move(io));
+    // What the machine plays, for the music effect: captured from now until the end, whether
+    // or not the effect is on. Virtual time stays off the machine's sound and sends silence.
+    if (!clk) {
+        capture = createLoopbackCapture();
+        capture->start();
+        link->setAudioCapture(capture.get());
+    }
     registry->setTarnwickBuild(tarnwickBuild);
     registry->setWindowShown(false); // until shown: a hidden window doesn't scan
 

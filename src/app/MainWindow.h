@@ -14,6 +14,7 @@ class BatteryPoller;
 class Clock;
 class ClockTimer;
 class DeviceRegistry;
+class AudioCapture;
 class DialogDeviceConnect;
 class FrameDeviceShow;
 
@@ -142,6 +143,7 @@ private:
     std::unique_ptr<BatteryPoller> poller;
     ModuleGenKeymapping keys;
     std::unique_ptr<ModuleMacroManager> macroStore;
+    std::unique_ptr<AudioCapture> capture; // read by the connection's music rounds
     std::unique_ptr<DialogDeviceConnect> link;
     std::unique_ptr<SingleInstance> instanceGuard;
 
