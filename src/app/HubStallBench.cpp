@@ -1,11 +1,13 @@
 // Runs the hub over the virtual devices with the stall watch on, and measures how long the
 // window's thread goes without events while the connection works: connecting to the wireless
-// keyboard and reading it whole, then a burst of key and magnetism writes. Before that the hub
-// sits idle for a while: what the watch sees then is the machine's own share (other programs
-// taking the processor). The click and the device page's first show (its layout) are measured
-// on their own: that is the window's work, whatever the connection does. Prints the longest pause
-// of each phase, with the thread's busy time, beside the longest single HID call of the run
-// (bench/gui-stall). orbe_hub_stall_bench [BURST] [SPACING_MS]   (default 200 writes, all at once)
+// keyboard and reading it whole, then a burst of key and magnetism writes, then the wired
+// keyboard with the music effect on for 10 s while the cards' battery polls go on. Before that
+// the hub sits idle for a while: what the watch sees then is the machine's own share (other
+// programs taking the processor). The click and the device page's first show (its layout) are
+// measured on their own: that is the window's work, whatever the connection does. Prints the
+// longest pause of each phase, with the thread's busy time, beside the longest single HID call
+// of the run (bench/gui-stall). orbe_hub_stall_bench [BURST] [SPACING_MS]   (default 200 writes,
+// all at once)
 
 #include "AppStartup.h"
 #include "Clock.h"
@@ -18,6 +20,7 @@
 #include "ScriptedInput.h"
 #include "StallWatchdog.h"
 #include "TimedHidBackend.h"
+#include "VirtualHidBackend.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -26,6 +29,7 @@
 #include <QTextStream>
 #include <QTimer>
 #include <QTranslator>
+#include <algorithm>
 
 namespace {
 
@@ -39,6 +43,9 @@ constexpr quint8 kFirstKeyCode = 0x04; // A, then on through the letters and dig
 constexpr int kKeyCodes = 36;
 constexpr quint8 kActuationTable = 0x00;
 constexpr quint32 kActuationRaw = 300; // 1.5 mm
+constexpr int kMusicMs = 10000;
+constexpr quint8 kMusicCommand = 0x0D;
+constexpr quint64 kNativeIds[] = {0x0AF7, 0x0EC3};
 
 // The card of the native keyboard on the radio link.
 FrameDeviceShow* wirelessCard(const MainWindow& window)
@@ -49,6 +56,30 @@ FrameDeviceShow* wirelessCard(const MainWindow& window)
             card->device()->family == DeviceEnumInfo::CloudFamily)
             return card;
     }
+    return nullptr;
+}
+
+// The card of the native keyboard on the cable.
+FrameDeviceShow* wiredCard(const MainWindow& window)
+{
+    for (int i = 0; i < kDevicesInSet; ++i) {
+        FrameDeviceShow* card = window.card(i);
+        const DeviceEnumInfo* d = card ? card->device() : nullptr;
+        if (d && d->connectionType == DeviceEnumInfo::Usb &&
+            d->family == DeviceEnumInfo::CloudFamily &&
+            std::find(std::begin(kNativeIds), std::end(kNativeIds), d->deviceId) !=
+                std::end(kNativeIds))
+            return card;
+    }
+    return nullptr;
+}
+
+// The shown one of the widgets of that name (the home page and the light page both have an
+// effect list).
+QWidget* shown(const QWidget& window, const QString& name)
+{
+    for (QWidget* w : window.findChildren<QWidget*>(name))
+        if (w->isVisible()) return w;
     return nullptr;
 }
 
@@ -87,11 +118,15 @@ int main(int argc, char* argv[])
     DialogDeviceConnect& link = *window.connection();
     StallWatchdog watchdog;
 
-    enum class Step { Cards, Idle, Page, Read, Burst, Done } step = Step::Cards;
+    enum class Step { Cards, Idle, Page, Read, Burst, Wired, WiredRead, Music, MusicOff, Done };
+    Step step = Step::Cards;
     QElapsedTimer phase;
     phase.start();
     double readStall = 0;
     double readBusy = 0;
+    double burstStall = 0;
+    double burstBusy = 0;
+    double musicStall = 0;
     int written = 0;
     QTimer poll;
     QTimer writer;
@@ -147,10 +182,47 @@ int main(int argc, char* argv[])
             writer.start(spacingMs);
             step = Step::Burst;
             return;
-        case Step::Burst: {
-            if (writer.isActive() || !link.isIdle()) return;
-            const double burstStall = watchdog.longestStallMs();
+        case Step::Burst:
+            if (writer.isActive() || !link.isIdle() || !shown(window, "label8")) return;
+            burstStall = watchdog.longestStallMs();
+            burstBusy = watchdog.longestBusyMs();
             report(QStringLiteral("burst of %1 key and magnetism writes").arg(burst));
+            // Back to the cards, as the user's return button does, for the wired keyboard.
+            ScriptedInput::click(shown(window, "label8"));
+            step = Step::Wired;
+            return;
+        case Step::Wired:
+            if (!wiredCard(window) || !wiredCard(window)->isVisible()) return;
+            ScriptedInput::click(wiredCard(window));
+            step = Step::WiredRead;
+            return;
+        case Step::WiredRead:
+            if (!link.isConnected() || link.isWirelessConnection() || !link.isIdle() ||
+                link.GetKeyMatrix(3).isEmpty() || !shown(window, "pushButtonEffect22"))
+                return;
+            ScriptedInput::click(shown(window, "pushButtonEffect22"));
+            watchdog.restart();
+            phase.restart();
+            step = Step::Music;
+            return;
+        case Step::Music:
+            if (phase.elapsed() < kMusicMs) return;
+            if (!shown(window, "pushButtonEffect1")) return;
+            musicStall = watchdog.longestStallMs();
+            report(QStringLiteral("music effect on (wired)"));
+            ScriptedInput::click(shown(window, "pushButtonEffect1"));
+            step = Step::MusicOff;
+            return;
+        case Step::MusicOff: {
+            if (!link.isIdle()) return;
+            // The connection is idle: nothing touches the keyboard's model on the I/O thread.
+            const auto* virtualHid = dynamic_cast<const VirtualHidBackend*>(&hid->inner());
+            int reports = 0;
+            if (virtualHid && virtualHid->wiredKeyboard())
+                for (const QByteArray& f : virtualHid->wiredKeyboard()->model().receivedFrames())
+                    reports += quint8(f.at(0)) == kMusicCommand;
+            out << QString::asprintf("%-38s %6d (10 a round, the last one cut)\n",
+                                     "music reports the keyboard received", reports);
             const TimedHidBackend::Longest longest = hid->longest();
             out << QString::asprintf("%-38s %6.1f ms (%s)\n", "longest single HID call", longest.ms,
                                      qPrintable(longest.call));
@@ -160,8 +232,8 @@ int main(int argc, char* argv[])
                                          qPrintable(it.key() + QStringLiteral(" thread")),
                                          it.value().ms, qPrintable(it.value().call));
             out << QString::asprintf("gui-stall: %.1f ms\n", std::max(readStall, burstStall));
-            out << QString::asprintf("gui-busy: %.1f ms\n",
-                                     std::max(readBusy, watchdog.longestBusyMs()));
+            out << QString::asprintf("gui-busy: %.1f ms\n", std::max(readBusy, burstBusy));
+            out << QString::asprintf("gui-stall-music: %.1f ms\n", musicStall);
             out.flush();
             step = Step::Done;
             app.exit(0);
