@@ -2,6 +2,7 @@
 
 #include "ConsoleModel.h"
 #include "DialogDeviceConnect.h"
+#include "KeyboardSnapshot.h"
 #include "MagnetTables.h"
 #include "NativeKeyboardModel.h"
 
@@ -15,7 +16,6 @@ constexpr int kKeyEntrySize = 4;
 constexpr int kMacroSlots = 50;
 // The two options of the option block that the hub uses: a switch and a choice of five.
 constexpr int kUsedOptions[] = {2, 3};
-constexpr int kIdentityVersionOffset = 7;
 
 QString hex(const QByteArray& bytes)
 {
@@ -60,10 +60,7 @@ namespace CacheJson {
 
 quint16 reportedFirmwareVersion(const DialogDeviceConnect& device)
 {
-    const QByteArray& info = device.GetDeviceInfo();
-    if (info.size() < kIdentityVersionOffset + 2) return 0;
-    return static_cast<quint16>(static_cast<quint8>(info.at(kIdentityVersionOffset)) |
-                                (static_cast<quint8>(info.at(kIdentityVersionOffset + 1)) << 8));
+    return KeyboardSnapshot::identityVersion(device.GetDeviceInfo());
 }
 
 QJsonObject fromConnection(const DialogDeviceConnect& d)

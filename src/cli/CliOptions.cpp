@@ -90,7 +90,7 @@ bool CliOptions::parse(const QStringList& args, CliOptions* o, QString* error)
     }
 
     if (i >= args.size()) {
-        *error = QStringLiteral("a command is missing: info, dump, call or list");
+        *error = QStringLiteral("a command is missing: info, dump, call, list, backup or restore");
         return false;
     }
     const QString command = args.at(i);
@@ -113,7 +113,26 @@ bool CliOptions::parse(const QStringList& args, CliOptions* o, QString* error)
         *error = QStringLiteral("list takes no arguments");
         return false;
     }
-    *error = QStringLiteral("unknown command \"%1\": info, dump, call or list").arg(command);
+    if (command == QLatin1String("backup") || command == QLatin1String("restore")) {
+        const bool restore = command == QLatin1String("restore");
+        o->command = restore ? Command::Restore : Command::Backup;
+        for (const QString& word : rest) {
+            if (restore && word == QLatin1String("--dry-run")) {
+                o->dryRun = true;
+            } else if (word.startsWith(QLatin1Char('-')) || !o->backupFile.isEmpty()) {
+                *error = QStringLiteral("usage: %1 FILE%2")
+                             .arg(command, restore ? QStringLiteral(" [--dry-run]") : QString());
+                return false;
+            } else {
+                o->backupFile = word;
+            }
+        }
+        if (!o->backupFile.isEmpty()) return true;
+        *error = QStringLiteral("%1 needs a FILE").arg(command);
+        return false;
+    }
+    *error = QStringLiteral("unknown command \"%1\": info, dump, call, list, backup or restore")
+                 .arg(command);
     return false;
 }
 
@@ -131,6 +150,15 @@ QString CliOptions::usage()
         "           the connection is idle again), then print the cache as JSON\n"
         "  list     run one discovery pass as the hub does and print one line per device:\n"
         "           family, connection, id, online, name, vendor path, device path (tabs)\n"
+        "  backup FILE\n"
+        "           connect, read every profile (selecting each in turn, then the one the\n"
+        "           keyboard was on), the user pictures and the light switch, and write them\n"
+        "           to FILE as one JSON document, whole or not at all (see README, Backups)\n"
+        "  restore FILE [--dry-run]\n"
+        "           check FILE, connect, refuse a backup of another keyboard id, read every\n"
+        "           profile and print what differs (what, keyboard, backup); then write only\n"
+        "           that, read everything again and confirm it matches. --dry-run writes\n"
+        "           nothing and returns to the profile the keyboard was on\n"
         "\n"
         "Options:\n"
         "  --simulate         use the built-in virtual keyboards instead of hidapi\n"
@@ -159,6 +187,8 @@ QString CliOptions::usage()
     text += QStringLiteral(
         "\n"
         "Exit status: 0 done; 2 bad command line; 3 no keyboard found; 4 keyboard found but\n"
-        "not opened (permissions); 5 no answer or read not finished within 30 s; 1 other.\n");
+        "not opened (permissions); 5 no answer or read not finished within 30 s; 6 backup\n"
+        "file refused (damaged, newer format, another keyboard); 1 other (a restore that\n"
+        "does not read back as the backup).\n");
     return text;
 }

@@ -10,7 +10,7 @@
 // The command line of orbehub-cli, read and checked before anything touches a device.
 struct CliOptions
 {
-    enum class Command { Info, Dump, Call, List };
+    enum class Command { Info, Dump, Call, List, Backup, Restore };
 
     bool simulate = false;
     bool wireless = false;
@@ -27,6 +27,8 @@ struct CliOptions
     QString traceFile;
     Command command = Command::Info;
     QList<PlannedCall> calls;
+    QString backupFile;  // backup and restore
+    bool dryRun = false; // restore: show the differences, write nothing
 
     // args without the program name. False with a one-line error.
     static bool parse(const QStringList& args, CliOptions* options, QString* error);

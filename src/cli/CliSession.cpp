@@ -1,5 +1,7 @@
 #include "CliSession.h"
 
+#include "BackupCommand.h"
+#include "BackupFile.h"
 #include "CacheJson.h"
 #include "Clock.h"
 #include "ConsoleModel.h"
@@ -38,14 +40,17 @@ bool isWirelessInterface(const HidDeviceInfo& e)
 
 } // namespace
 
-CliSession::CliSession(const CliOptions& o, QTextStream& outStream, QTextStream& errStream)
-    : options(o), out(outStream), err(errStream), clock(QtClock::shared())
+CliSession::CliSession(const CliOptions& o, QTextStream& outStream, QTextStream& errStream,
+                       const CliHarness* h)
+    : options(o), harness(h), out(outStream), err(errStream),
+      clock(h ? h->clock : QtClock::shared())
 {
 }
 
 CliSession::~CliSession()
 {
     // The connection closes its handles through the backend, so it goes first.
+    backupCommand.reset();
     device.reset();
     tracer.reset();
     backend.reset();
@@ -57,6 +62,15 @@ void CliSession::start()
         if (openBackend()) finish(DeviceListCommand::run(*hid, *clock, out, err));
         return;
     }
+    if (options.command == CliOptions::Command::Restore) {
+        // A damaged file is refused before anything is connected.
+        QString why;
+        restoreFrom = BackupFile::read(options.backupFile, &why);
+        if (!restoreFrom) {
+            finish(Refused, QStringLiteral("backup refused: %1; nothing was sent").arg(why));
+            return;
+        }
+    }
     if (!openBackend() || !connectKeyboard()) return;
     armDeadline(options.command == CliOptions::Command::Info
                     ? QStringLiteral("the keyboard did not answer within 30 s")
@@ -65,7 +79,11 @@ void CliSession::start()
 
 bool CliSession::openBackend()
 {
-    if (options.simulate) {
+    if (options.simulate && harness) {
+        simulated = harness->keyboard;
+        vid = options.vid.value_or(simulated->vendorId());
+        pid = options.pid.value_or(simulated->productId());
+    } else if (options.simulate) {
         SimulatorOptions sim;
         sim.deviceId = options.simDeviceId;
         sim.firmwareVersion = options.simFirmwareVersion;
@@ -82,7 +100,7 @@ bool CliSession::openBackend()
     } else {
         backend = std::make_unique<HidapiBackend>();
     }
-    hid = backend.get();
+    hid = harness ? harness->hid : backend.get();
 
     if (!options.traceFile.isEmpty()) {
         traceFile = std::make_unique<QFile>(options.traceFile);
@@ -96,7 +114,8 @@ bool CliSession::openBackend()
     }
 
     device = std::make_unique<DialogDeviceConnect>(
-        hid, clock, keys, InstallLayout().settingsFile(QStringLiteral("device.ini")));
+        hid, clock, keys, InstallLayout().settingsFile(QStringLiteral("device.ini")),
+        harness ? std::make_unique<InlineHidExecutor>() : nullptr);
     if (!options.simulate) {
         // What the connection loaded from device.ini, unless given.
         vid = options.vid.value_or(device->console().vidText().trimmed().toUShort(nullptr, 16));
@@ -159,6 +178,11 @@ void CliSession::onLayer(int layer)
         finish(Done);
         return;
     }
+    QString why;
+    if (restoreFrom && !BackupCommand::accepts(*restoreFrom, *device, &why)) {
+        finish(Refused, QStringLiteral("backup refused: %1").arg(why));
+        return;
+    }
     // As the hub's layer buttons do: select the profile, which reads it whole.
     device->DoSetProfile(static_cast<quint8>(layer));
 }
@@ -181,6 +205,11 @@ void CliSession::onReadFinished()
         finish(Done);
         return;
     }
+    if (options.command == CliOptions::Command::Backup ||
+        options.command == CliOptions::Command::Restore) {
+        startBackupCommand();
+        return;
+    }
     runNextCall();
 }
 
@@ -196,6 +225,19 @@ void CliSession::runNextCall()
     call.operation->invoke(*device, call.args);
     if (!idlePoll) idlePoll = clock->createTimer([this] { checkIdle(); }, false);
     idlePoll->start(kIdlePollMs);
+}
+
+void CliSession::startBackupCommand()
+{
+    // Every step of the command has a time limit of its own.
+    deadline->stop();
+    backupCommand = std::make_unique<BackupCommand>(options, *device, *clock, out, err);
+    connect(backupCommand.get(), &BackupCommand::finished, this,
+            [this](int status, const QString& message) { finish(status, message); });
+    if (restoreFrom)
+        backupCommand->restore(*restoreFrom, device->GetCurrentProfile());
+    else
+        backupCommand->backup(device->GetCurrentProfile());
 }
 
 void CliSession::checkIdle()
@@ -242,8 +284,5 @@ void CliSession::finish(int status, const QString& message)
     if (idlePoll) idlePoll->stop();
     if (deadline) deadline->stop();
     if (!message.isEmpty()) err << QStringLiteral("orbehub-cli: ") << message << Qt::endl;
-    // Queued, so that it also works before the event loop has started.
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(), [status] { QCoreApplication::exit(status); },
-        Qt::QueuedConnection);
+    emit ended(status);
 }

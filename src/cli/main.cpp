@@ -24,6 +24,10 @@ int main(int argc, char* argv[])
     }
 
     CliSession session(options, out, err);
+    // Queued, so that it also works before the event loop has started.
+    QObject::connect(
+        &session, &CliSession::ended, &app, [](int status) { QCoreApplication::exit(status); },
+        Qt::QueuedConnection);
     QTimer::singleShot(0, &session, &CliSession::start);
     return app.exec();
 }

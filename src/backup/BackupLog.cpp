@@ -1,0 +1,3 @@
+#include "BackupLog.h"
+
+Q_LOGGING_CATEGORY(lcBackup, "orbe.backup", QtInfoMsg)
