@@ -21,12 +21,12 @@ class TestCli : public QObject
         QByteArray err;
     };
 
-    static Run run(const QStringList& args)
+    static Run run(const QStringList& args, int limitMs = 60000)
     {
         QProcess process;
         process.start(QStringLiteral(ORBEHUB_CLI), args);
         Run r;
-        if (!process.waitForFinished(60000)) {
+        if (!process.waitForFinished(limitMs)) {
             process.kill();
             process.waitForFinished();
             return r;
@@ -64,6 +64,11 @@ private slots:
                                  << "call: DoSendHex:";
         QTest::newRow("blank in hex")
             << QStringList{"call", "DoSendHex", "E5 00", "0"} << "call: DoSendHex:";
+        QTest::newRow("backup without a file") << QStringList{"backup"} << "backup needs a FILE";
+        QTest::newRow("backup with two files")
+            << QStringList{"backup", "a", "b"} << "usage: backup FILE";
+        QTest::newRow("restore, unknown option")
+            << QStringList{"restore", "a", "--fast"} << "usage: restore FILE [--dry-run]";
         QTest::newRow("flag not 0 or 1")
             << QStringList{"call", "DoSendHex", "E500", "2"} << "call: DoSendHex:";
     }
@@ -251,6 +256,51 @@ private slots:
                  "0100" + QString("00").repeated(54));
         QCOMPARE(keyboard.value("pictures").toObject().keys(), QStringList{"1"});
         QVERIFY(keyboard.value("pictures").toObject().value("1").toString().startsWith("ABABAB"));
+    }
+
+    // The one run of backup and restore in real time, with the pacing of a wired keyboard: a
+    // backup, the file changed by hand in a profile that isn't the active one and in a sleep
+    // time, and a restore on a fresh virtual keyboard that writes those two and reads back.
+    void backupAndRestoreInRealTime()
+    {
+        QTemporaryDir dir;
+        const QString file = dir.filePath("kb.json");
+        const Run backup = run({"--simulate", "backup", file}, 120000);
+        QCOMPARE(backup.status, 0);
+        QFile f(file);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QJsonObject o = QJsonDocument::fromJson(f.readAll()).object();
+        f.close();
+        QCOMPARE(o.value("formatVersion").toInt(), 1);
+        QCOMPARE(o.value("deviceId").toInt(), 0xAF7);
+        QJsonArray profiles = o.value("profiles").toArray();
+        QJsonArray layers = profiles[1].toArray();
+        QJsonArray layer = layers[0].toArray();
+        layer[9] = "00000500";
+        layers[0] = layer;
+        profiles[1] = layers;
+        o.insert("profiles", profiles);
+        QJsonArray sleep = o.value("sleepTimes").toArray();
+        sleep[2] = 600;
+        o.insert("sleepTimes", sleep);
+        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(QJsonDocument(o).toJson());
+        f.close();
+
+        const Run restore = run({"--simulate", "restore", file}, 180000);
+        const QString out = QString::fromUtf8(restore.out);
+        QVERIFY2(restore.status == 0, qPrintable(out + restore.err));
+        const QStringList lines = out.split('\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 5);
+        QVERIFY(lines.at(0).startsWith("WHAT "));
+        QVERIFY(
+            QRegularExpression("^profile 1 layer 0 key 04 \\(position 9\\) +00000400 +00000500$")
+                .match(lines.at(1))
+                .hasMatch());
+        QVERIFY(
+            QRegularExpression("^sleep time 2 \\(s\\) +1800 +600$").match(lines.at(2)).hasMatch());
+        QCOMPARE(lines.at(3), QString("2 differences, 2 operations to write"));
+        QCOMPARE(lines.at(4), QString("read back: the keyboard matches the backup"));
     }
 
     void failuresExitWithAReason_data()
