@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -56,4 +58,17 @@ template <class T> T* widget(const QObject* root, const char* name)
     T* found = root->findChild<T*>(QLatin1String(name));
     if (!found) qFatal("no %s named %s", T::staticMetaObject.className(), name);
     return found;
+}
+
+// Puts a key entry into a backup file's document: profiles[profile][layer][position].
+inline void setBackupKeyEntry(QJsonObject& backup, int profile, int layer, int position,
+                              const QString& entry)
+{
+    QJsonArray profiles = backup.value("profiles").toArray();
+    QJsonArray layers = profiles[profile].toArray();
+    QJsonArray entries = layers[layer].toArray();
+    entries[position] = entry;
+    layers[layer] = entries;
+    profiles[profile] = layers;
+    backup.insert("profiles", profiles);
 }

@@ -2,6 +2,7 @@
 #include "CliOptions.h"
 #include "CliSession.h"
 #include "ManualClock.h"
+#include "TestSupport.h"
 #include "VirtualHidBackend.h"
 #include "VirtualKeyboard.h"
 
@@ -75,15 +76,7 @@ class TestBackup : public QObject
 
     static QJsonObject load(const QString& path)
     {
-        QFile f(path);
-        return f.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(f.readAll()).object()
-                                           : QJsonObject();
-    }
-    static void save(const QString& path, const QByteArray& bytes)
-    {
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(bytes);
+        return QJsonDocument::fromJson(readFile(path)).object();
     }
 
     // The firmware holds what the backup holds.
@@ -209,7 +202,7 @@ private slots:
                              "light speed (keyboard's value)",
                              "light option",
                              "side light effect",
-                             "side light speed",
+                             "side light speed (keyboard's value)",
                              "side light brightness",
                              "side light mode",
                              "side light colour",
@@ -282,29 +275,26 @@ private slots:
         QCOMPARE(rig.cli({"backup", rig.file()}).status, 0);
         QCOMPARE(rig.call("DoSetKey 0x04 00000500 0 1 -- DoSetDebounce 7").status, 0);
 
-        QFile f(rig.file());
-        QVERIFY(f.open(QIODevice::ReadOnly));
-        const QByteArray bytes = f.readAll();
-        f.close();
+        const QByteArray bytes = readFile(rig.file());
         QJsonObject o = QJsonDocument::fromJson(bytes).object();
         const QString key = edit.section('=', 0, 0);
         const QJsonValue value =
             QJsonDocument::fromJson("[" + edit.section('=', 1).toUtf8() + "]").array().at(0);
         if (edit == "cut") {
-            save(rig.file(), bytes.left(bytes.size() / 2));
+            writeFile(rig.file(), bytes.left(bytes.size() / 2));
         } else if (edit == "delete") {
             QVERIFY(QFile::remove(rig.file()));
         } else if (key.startsWith('-')) {
             o.remove(key.mid(1));
-            save(rig.file(), QJsonDocument(o).toJson());
+            writeFile(rig.file(), QJsonDocument(o).toJson());
         } else if (key.contains('.')) {
             QJsonObject inner = o.value(key.section('.', 0, 0)).toObject();
             inner.insert(key.section('.', 1), value);
             o.insert(key.section('.', 0, 0), inner);
-            save(rig.file(), QJsonDocument(o).toJson());
+            writeFile(rig.file(), QJsonDocument(o).toJson());
         } else {
             o.insert(key, value);
-            save(rig.file(), QJsonDocument(o).toJson());
+            writeFile(rig.file(), QJsonDocument(o).toJson());
         }
 
         const QByteArray keyMap = rig.fw().keyMap(0, 0);
@@ -334,14 +324,8 @@ private slots:
         QString options = o.value("options").toString();
         options.replace(12, 2, "5A"); // option 6: the frame's checksum takes its place
         o.insert("options", options);
-        QJsonArray profiles = o.value("profiles").toArray();
-        QJsonArray layers = profiles[0].toArray();
-        QJsonArray layer = layers[0].toArray();
-        layer[9] = "00000A00";
-        layers[0] = layer;
-        profiles[0] = layers;
-        o.insert("profiles", profiles);
-        save(rig.file(), QJsonDocument(o).toJson());
+        setBackupKeyEntry(o, 0, 0, 9, "00000A00");
+        writeFile(rig.file(), QJsonDocument(o).toJson());
 
         const Run r = rig.cli({"restore", rig.file()});
         QCOMPARE(r.status, int(CliSession::Failed));
@@ -362,9 +346,7 @@ private slots:
     {
         Rig rig;
         QCOMPARE(rig.cli({"backup", rig.file()}).status, 0);
-        QFile f(rig.file());
-        QVERIFY(f.open(QIODevice::ReadOnly));
-        const QByteArray bytes = f.readAll();
+        const QByteArray bytes = readFile(rig.file());
         QVERIFY(BackupFile::parse(bytes, nullptr));
         const qsizetype step = std::max<qsizetype>(1, bytes.size() / 997);
         for (qsizetype n = 0; n < bytes.size() - 1; n += step) {

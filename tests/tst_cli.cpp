@@ -1,5 +1,6 @@
 #include "CallRegistry.h"
 #include "CliOptions.h"
+#include "TestSupport.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -267,25 +268,14 @@ private slots:
         const QString file = dir.filePath("kb.json");
         const Run backup = run({"--simulate", "backup", file}, 120000);
         QCOMPARE(backup.status, 0);
-        QFile f(file);
-        QVERIFY(f.open(QIODevice::ReadOnly));
-        QJsonObject o = QJsonDocument::fromJson(f.readAll()).object();
-        f.close();
+        QJsonObject o = QJsonDocument::fromJson(readFile(file)).object();
         QCOMPARE(o.value("formatVersion").toInt(), 1);
         QCOMPARE(o.value("deviceId").toInt(), 0xAF7);
-        QJsonArray profiles = o.value("profiles").toArray();
-        QJsonArray layers = profiles[1].toArray();
-        QJsonArray layer = layers[0].toArray();
-        layer[9] = "00000500";
-        layers[0] = layer;
-        profiles[1] = layers;
-        o.insert("profiles", profiles);
+        setBackupKeyEntry(o, 1, 0, 9, "00000500");
         QJsonArray sleep = o.value("sleepTimes").toArray();
         sleep[2] = 600;
         o.insert("sleepTimes", sleep);
-        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(QJsonDocument(o).toJson());
-        f.close();
+        writeFile(file, QJsonDocument(o).toJson());
 
         const Run restore = run({"--simulate", "restore", file}, 180000);
         const QString out = QString::fromUtf8(restore.out);

@@ -72,6 +72,8 @@ struct Builder
     void options();
     void settings();
     void pictures();
+    void light(const QString& name, const QString& optionName, const Snapshot::Light& o,
+               const Snapshot::Light& n);
     void lighting();
 };
 
@@ -231,19 +233,24 @@ void Builder::pictures()
     }
 }
 
+void Builder::light(const QString& name, const QString& optionName, const Snapshot::Light& o,
+                    const Snapshot::Light& n)
+{
+    field(name + QStringLiteral(" effect"), o.effect, n.effect);
+    field(name + QStringLiteral(" speed (keyboard's value)"), o.speed, n.speed);
+    field(name + QStringLiteral(" brightness"), o.brightness, n.brightness);
+    field(name + QLatin1Char(' ') + optionName, o.option, n.option);
+    if (o.rgb() != n.rgb())
+        change(name + QStringLiteral(" colour"), colour(o.rgb()), colour(n.rgb()));
+}
+
 void Builder::lighting()
 {
-    const Snapshot::Light& o = kb.lighting;
     const Snapshot::Light& n = bk.lighting;
-    field(QStringLiteral("light effect"), o.effect, n.effect);
-    field(QStringLiteral("light speed (keyboard's value)"), o.speed, n.speed);
-    field(QStringLiteral("light brightness"), o.brightness, n.brightness);
-    field(QStringLiteral("light option"), o.option, n.option);
-    if (o.rgb() != n.rgb())
-        change(QStringLiteral("light colour"), colour(o.rgb()), colour(n.rgb()));
+    light(QStringLiteral("light"), QStringLiteral("option"), kb.lighting, n);
     // A picture write switched the effect to the picture; the light goes back whole. Each of
     // these writes the console's row of 07, so the last frame carries every field.
-    if (o != n || pictureWritten)
+    if (kb.lighting != n || pictureWritten)
         plan.settingsWrites.append([n](D& d) {
             d.DoSetLedEffect(n.effect, 0);
             d.DoSetLedSpeed(quint8(kLedSpeedSteps - n.speed));
@@ -254,12 +261,7 @@ void Builder::lighting()
 
     const Snapshot::Light& so = kb.sideLight;
     const Snapshot::Light& sn = bk.sideLight;
-    field(QStringLiteral("side light effect"), so.effect, sn.effect);
-    field(QStringLiteral("side light speed"), so.speed, sn.speed);
-    field(QStringLiteral("side light brightness"), so.brightness, sn.brightness);
-    field(QStringLiteral("side light mode"), so.option, sn.option);
-    if (so.rgb() != sn.rgb())
-        change(QStringLiteral("side light colour"), colour(so.rgb()), colour(sn.rgb()));
+    light(QStringLiteral("side light"), QStringLiteral("mode"), so, sn);
     if (so != sn)
         plan.settingsWrites.append([sn](D& d) {
             const char block[] = {0,
