@@ -3,6 +3,8 @@
 #include "CommandLayouts.h"
 #include "DialogDeviceConnect.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kReadFrameLength = 8;
@@ -18,6 +20,12 @@ KeyboardReader::KeyboardReader(DialogDeviceConnect& d, Clock& clock, QObject* pa
 void KeyboardReader::start(quint8 current, bool currentIsFresh, quint8 last)
 {
     shot = KeyboardSnapshot();
+    if (current >= KeyboardSnapshot::kProfiles || last >= KeyboardSnapshot::kProfiles) {
+        // A profile byte out of range came from the keyboard's 84 reply.
+        emit failed(QStringLiteral("the keyboard reported profile %1, not one of 0 to 3")
+                        .arg(std::max(current, last)));
+        return;
+    }
     if (currentIsFresh && current != last) shot.takeKeyLayers(device, current);
     for (quint8 p = 0; p < KeyboardSnapshot::kProfiles; ++p) {
         if (p == last || (p == current && currentIsFresh)) continue;
