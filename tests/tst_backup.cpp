@@ -49,7 +49,8 @@ class TestBackup : public QObject
             return dir.filePath(name);
         }
 
-        Run cli(const QStringList& args)
+        // during runs at every step of virtual time, for faults on cue.
+        Run cli(const QStringList& args, const std::function<void()>& during = {})
         {
             QStringList all{"--simulate"};
             if (wireless) all << "--wireless";
@@ -62,7 +63,12 @@ class TestBackup : public QObject
                 CliSession session(options, out, err, &harness);
                 connect(&session, &CliSession::ended, [&r](int status) { r.status = status; });
                 session.start();
-                clock.advanceUntil([&r] { return r.status >= 0; }, 10 * 60 * 1000, 5);
+                clock.advanceUntil(
+                    [&] {
+                        if (during) during();
+                        return r.status >= 0;
+                    },
+                    10 * 60 * 1000, 5);
             }
             out.flush();
             err.flush();
@@ -134,6 +140,13 @@ class TestBackup : public QObject
         return list;
     }
     static int count(const QList<quint8>& list, quint8 command) { return int(list.count(command)); }
+    static QList<QByteArray> framesOf(const NativeKeyboardModel& fw, quint8 command)
+    {
+        QList<QByteArray> out;
+        for (const QByteArray& f : fw.receivedFrames())
+            if (quint8(f.at(0)) == command) out.append(f);
+        return out;
+    }
 
 private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
@@ -339,6 +352,52 @@ private slots:
         // The one that could be written was.
         QCOMPARE(rig.fw().keyEntry(0, 0, 9), QByteArray::fromHex("00000A00"));
         QCOMPARE(rig.fw().sleepTime(0), quint16(300));
+    }
+
+    // A keyboard that goes away or stops answering part-way: a backup leaves the file it would
+    // have replaced whole, a restore stops with the reason. (The tool has no hot-plug watch:
+    // either fault shows as a step that isn't answered.)
+    void faultsPartWay_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<int>("frame"); // the fault strikes after the nth frame of this command
+        QTest::addColumn<int>("nth");
+        QTest::addColumn<bool>("unplug"); // else the replies stop
+        QTest::newRow("backup, unplugged in the third profile") << "backup" << 0x8A << 70 << true;
+        QTest::newRow("backup, silent while reading pictures") << "backup" << 0x8C << 8 << false;
+        QTest::newRow("restore, unplugged after the writes") << "restore" << 0x0A << 1 << true;
+    }
+    void faultsPartWay()
+    {
+        QFETCH(QString, command);
+        QFETCH(int, frame);
+        QFETCH(int, nth);
+        QFETCH(bool, unplug);
+        Rig rig;
+        const QString old = rig.file("old.json");
+        QCOMPARE(rig.cli({"backup", old}).status, 0);
+        const QByteArray oldBytes = readFile(old);
+        if (command == "restore")
+            QCOMPARE(rig.call("DoSetKey 0x04 00000500 0 1 -- DoSetKey 0x05 00000600 0 1 -- "
+                              "DoSetKey 0x06 00000700 0 1")
+                         .status,
+                     0);
+
+        rig.fw().clearReceivedFrames();
+        bool struck = false;
+        const Run r = rig.cli({command, old}, [&] {
+            if (struck || framesOf(rig.fw(), quint8(frame)).size() < nth) return;
+            struck = true;
+            if (unplug)
+                rig.keyboard->unplug();
+            else
+                rig.keyboard->dropNextReplies(1000);
+        });
+        QVERIFY(struck);
+        QCOMPARE(r.status, int(CliSession::TimedOut));
+        QVERIFY2(r.err.contains("the keyboard did not answer within 30 s"), qPrintable(r.err));
+        QCOMPARE(readFile(old), oldBytes);
+        QVERIFY(!r.out.contains("matches the backup"));
     }
 
     // The parser takes any bytes: every cut of a real file is refused with a reason.
