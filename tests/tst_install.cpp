@@ -154,9 +154,9 @@ private slots:
              it.hasNext();)
             wanted << it.next().captured(1);
         QVERIFY(wanted.contains("--sim-silent") && wanted.contains("-h"));
-        for (const char* command : {"info", "dump", "call", "list"})
+        for (const char* command : {"info", "dump", "call", "list", "backup", "restore"})
             wanted << QStringLiteral(".B %1").arg(QLatin1String(command));
-        for (int status = 0; status <= 5; ++status)
+        for (int status = 0; status <= 6; ++status)
             wanted << QStringLiteral(".B %1\n").arg(status);
         for (const QString& word : std::as_const(wanted))
             QVERIFY2(plain.contains(word), qPrintable(word));
