@@ -155,19 +155,23 @@ private slots:
     {
         QTest::addColumn<bool>("wireless");
         QTest::addColumn<int>("version");
-        QTest::newRow("wired") << false << 0x300;
-        QTest::newRow("wireless, firmware 0x500") << true << 0x500;
-        QTest::newRow("firmware 0x2FF, no magnetism") << false << 0x2FF;
+        QTest::addColumn<int>("effect"); // the backup's light effect
+        // The music effect's reports run once a restore has chosen it again.
+        QTest::newRow("wired, music effect") << false << 0x300 << 22;
+        QTest::newRow("wireless, firmware 0x500") << true << 0x500 << 4;
+        QTest::newRow("firmware 0x2FF, no magnetism") << false << 0x2FF << 4;
     }
     void backupChangeRestore()
     {
         QFETCH(bool, wireless);
         QFETCH(int, version);
+        QFETCH(int, effect);
         const bool magnetism = version >= 0x300;
         Rig rig(wireless, quint16(version));
         // Made the keyboard's own before the backup: profile 1 active, a key on profile 3.
-        QCOMPARE(rig.call("DoSetProfile 3 -- DoSetKey 0x05 00000600 2 1 -- DoSetProfile 1 -- "
-                          "DoSetLedEffect 4 3")
+        QCOMPARE(rig.call(QString("DoSetProfile 3 -- DoSetKey 0x05 00000600 2 1 -- DoSetProfile 1 "
+                                  "-- DoSetLedEffect %1 3")
+                              .arg(effect))
                      .status,
                  0);
 
@@ -242,6 +246,7 @@ private slots:
         QCOMPARE(count(sent, 0x65), magnetism ? 2 : 0);
         QCOMPARE(count(sent, 0x0C), 7);
         QCOMPARE(count(sent, 0x11), 1);
+        QCOMPARE(count(sent, 0x0D) > 0, effect == 22);
 
         // Once more: nothing differs, nothing is written.
         rig.fw().clearReceivedFrames();
