@@ -241,25 +241,35 @@ private slots:
 
     // ---- ToggleButton
 
-    void toggleButtonToggles_data()
+    // A click flips an enabled switch (a disabled one stays), and it paints the state it ends
+    // in: the knob 18 across at one end of the pill (x 3 to 49), the pill's colour elsewhere.
+    void toggleButton_data()
     {
         QTest::addColumn<bool>("enabled");
         QTest::addColumn<bool>("checkedBefore");
         QTest::addColumn<bool>("checkedAfter");
-        QTest::newRow("off to on") << true << false << true;
-        QTest::newRow("on to off") << true << true << false;
-        QTest::newRow("disabled stays") << false << true << true;
+        QTest::addColumn<QString>("pill");
+        QTest::addColumn<QString>("knob");
+        QTest::newRow("off to on") << true << false << true << "#6329b6"
+                                   << "#ffffff";
+        QTest::newRow("on to off") << true << true << false << QColor(Qt::gray).name() << "#e0e0e0";
+        QTest::newRow("disabled stays")
+            << false << true << true << QColor(Qt::lightGray).name() << "#ffffff";
     }
-    void toggleButtonToggles()
+    void toggleButton()
     {
         QFETCH(bool, enabled);
         QFETCH(bool, checkedBefore);
         QFETCH(bool, checkedAfter);
+        QFETCH(QString, pill);
+        QFETCH(QString, knob);
 
         ToggleButton toggle;
         toggle.setChecked(checkedBefore);
         toggle.setEnabled(enabled);
         toggle.show();
+        QVERIFY(toggle.width() >= 52 && toggle.height() >= 24);
+        toggle.resize(52, 24);
         QSignalSpy toggled(&toggle, &QAbstractButton::toggled);
         QSignalSpy clicked(&toggle, &QAbstractButton::clicked);
         QTest::mouseClick(&toggle, Qt::LeftButton, {}, {45, 12});
@@ -267,36 +277,9 @@ private slots:
         QCOMPARE(toggled.size(), checkedAfter != checkedBefore ? 1 : 0);
         QCOMPARE(clicked.size(), enabled ? 1 : 0);
         QVERIFY(!toggle.isDown());
-        QVERIFY(toggle.width() >= 52 && toggle.height() >= 24);
-    }
-    void toggleButtonPaints_data()
-    {
-        QTest::addColumn<bool>("enabled");
-        QTest::addColumn<bool>("checked");
-        QTest::addColumn<QString>("pill");
-        QTest::addColumn<QString>("knob");
-        QTest::addColumn<bool>("knobRight");
-        QTest::newRow("on") << true << true << "#6329b6"
-                            << "#ffffff" << true;
-        QTest::newRow("off") << true << false << QColor(Qt::gray).name() << "#e0e0e0" << false;
-        QTest::newRow("disabled on")
-            << false << true << QColor(Qt::lightGray).name() << "#ffffff" << true;
-    }
-    void toggleButtonPaints()
-    {
-        QFETCH(bool, enabled);
-        QFETCH(bool, checked);
-        QFETCH(QString, pill);
-        QFETCH(QString, knob);
-        QFETCH(bool, knobRight);
 
-        ToggleButton toggle;
-        toggle.resize(52, 24);
-        toggle.setChecked(checked);
-        toggle.setEnabled(enabled);
-        // The knob is 18 across, inside the pill from x 3 to 49.
-        const int knobCentre = knobRight ? 49 - 9 : 3 + 9;
-        const int otherSide = knobRight ? 3 + 9 : 49 - 9;
+        const int knobCentre = checkedAfter ? 49 - 9 : 3 + 9;
+        const int otherSide = checkedAfter ? 3 + 9 : 49 - 9;
         QCOMPARE(pixelAt(toggle, knobCentre, 12), knob);
         QCOMPARE(pixelAt(toggle, otherSide, 12), pill);
         QCOMPARE(pixelAt(toggle, 26, 2), pill);
@@ -358,18 +341,24 @@ private slots:
         QFile::remove(onPath);
         QFile::remove(offPath);
     }
+    // setTip replaces the label's text and native tip with its own tooltip; without it the
+    // tooltip is built a moment later from the native tip. It shows 100 ms after the pointer
+    // comes, beside the label, not when the pointer leaves first, and a press hides it.
     void superLabelTip()
     {
-        SuperLabel label;
-        label.setText("text");
-        label.setToolTip("native tip");
-        label.setTip("清除设置");
-        QVERIFY(label.text().isEmpty());
-        QVERIFY(label.toolTip().isEmpty());
-        QVERIFY(label.tooltip());
-        QCOMPARE(label.tooltip()->text(), QString("清除设置"));
+        QWidget window;
+        window.resize(200, 100);
+        auto* label = new SuperLabel(&window);
+        label->setGeometry(10, 10, 40, 40);
+        label->setText("text");
+        label->setToolTip("native tip");
+        label->setTip("清除设置");
+        window.show();
+        QVERIFY(label->text().isEmpty());
+        QVERIFY(label->toolTip().isEmpty());
+        QVERIFY(label->tooltip());
+        QCOMPARE(label->tooltip()->text(), QString("清除设置"));
 
-        // Without setTip, the tooltip is built a moment later from the label's own tool tip.
         SuperLabel formLabel;
         formLabel.setToolTip("from the form");
         QVERIFY(!formLabel.tooltip());
@@ -377,17 +366,8 @@ private slots:
         QCOMPARE(formLabel.tooltip()->text(), QString("from the form"));
         QCOMPARE(formLabel.toolTipDuration(), 2000000);
         // The shot that builds it later does not undo setTip.
-        QTRY_COMPARE(label.toolTipDuration(), 2000000);
-        QCOMPARE(label.tooltip()->text(), QString("清除设置"));
-    }
-    void superLabelTooltipTiming()
-    {
-        QWidget window;
-        window.resize(200, 100);
-        auto* label = new SuperLabel(&window);
-        label->setGeometry(10, 10, 40, 40);
-        label->setTip("tip");
-        window.show();
+        QTRY_COMPARE(label->toolTipDuration(), 2000000);
+        QCOMPARE(label->tooltip()->text(), QString("清除设置"));
 
         QEvent enter(QEvent::Enter);
         QEvent leave(QEvent::Leave);
