@@ -1,10 +1,13 @@
 // The light page against the virtual keyboard: keys painted by click, by band and at random,
 // written to a picture layer and read back identical; works saved, found again by a new page,
 // chosen, updated and deleted with the question answered both ways; a works file that can't be
-// read shows an empty library, crashes nothing and loses no file.
+// read shows an empty library, crashes nothing and loses no file. The works store on its own:
+// foreign entries left out, a failed write leaving nothing half done, and the folder the file
+// goes to, beside the program in a build tree that can be written, else the user's data folder.
 
 #include "DialogColorPicker.h"
 #include "FrameLight.h"
+#include "InstallLayout.h"
 #include "KeyPositions.h"
 #include "KeyboardButton.h"
 #include "LightWorkStore.h"
@@ -22,6 +25,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScopeGuard>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QTimer>
@@ -35,6 +39,7 @@ constexpr quint8 kReadPicture = 0x8C;
 constexpr int kKeyBytes = FrameLight::kKeyPositions * 3;
 constexpr quint8 kEsc = 41, kQ = 20, kA = 4, kSpace = 44, kFn = 250;
 const QColor kBlack(0, 0, 0);
+const QList<LightWork> kTwoWorks{{"iVBORw0KGgo=", "Sunset", "ff000000ff00"}, {"", "", "0000ff"}};
 
 // The light page on a read keyboard, shown, its works in a folder of the test's own.
 struct LightRig : SimRig
@@ -235,8 +240,6 @@ private slots:
 
         rig.restart();
         QCOMPARE(rig.names(), (QStringList{"Sunset", ""}));
-        QCOMPARE(rig.works()->headerData(2, Qt::Horizontal).toString(), QStringLiteral("管理"));
-        QCOMPARE(rig.works()->item(0, 2)->text(), QStringLiteral("删除"));
         QImage preview;
         QVERIFY(preview.loadFromData(
             QByteArray::fromBase64(rig.works()->item(0, 0)->data(257).toString().toLatin1()),
@@ -331,6 +334,76 @@ private slots:
         QCOMPARE(readFile(rig.folder() + "/notes.txt"), QByteArray("kept"));
         rig.restart();
         QCOMPARE(rig.names(), QStringList{"我的作品"});
+    }
+
+    // Entries that aren't works are left out; the rest load in order.
+    void foreignEntries()
+    {
+        QTemporaryDir dir;
+        writeFile(dir.filePath("ledwork.json"), R"([1, {"name": "A", "data": "01"}, "x", {}])");
+        LightWorkStore store(dir.path());
+        QCOMPARE(store.load(), (QList<LightWork>{{"", "A", "01"}, {"", "", ""}}));
+        QVERIFY(!store.loadedBroken());
+    }
+
+    // A file that can't be replaced leaves the old one whole.
+    void failedWrite()
+    {
+        QTemporaryDir dir;
+        LightWorkStore store(dir.path());
+        QVERIFY(store.save(kTwoWorks));
+        QVERIFY(QFile::remove(store.filePath()));
+        QVERIFY(QDir().mkpath(store.filePath())); // a folder where the file would go
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression("cannot write|could not replace|write failed"));
+        QVERIFY(!store.save({}));
+        QVERIFY(QFileInfo(store.filePath()).isDir());
+        QVERIFY(QDir(store.filePath()).isEmpty());
+    }
+
+    void colourMapText()
+    {
+        const QByteArray map = QByteArray::fromHex("00dc00ff8000");
+        QCOMPARE(LightWorkStore::toHex(map), QStringLiteral("00dc00ff8000"));
+        QCOMPARE(LightWorkStore::fromHex("00DC00ff8000"), map);
+        QCOMPARE(LightWorkStore::fromHex("00dcZZ").size(), 2); // bad text: a short map
+    }
+
+    // Beside the program in a build tree that can be written; in the user's data folder when
+    // installed or when the program's folder can't hold one. The folder is made at once, a
+    // missing file is not a broken one, and the works come back in order from an indented file.
+    void worksFolder_data()
+    {
+        QTest::addColumn<QStringList>("folders"); // made under the root
+        QTest::addColumn<QString>("program");     // relative to the root
+        QTest::addColumn<bool>("beside");
+        const QString shared = QDir::cleanPath(QStringLiteral("bin/" ORBE_DATA_FROM_BIN));
+        QTest::newRow("build tree") << QStringList{"bin/config"} << "bin" << true;
+        QTest::newRow("installed") << QStringList{"bin", shared + "/config"} << "bin" << false;
+        QTest::newRow("program folder is not a folder") << QStringList{} << "file" << false;
+    }
+    void worksFolder()
+    {
+        QFETCH(QStringList, folders);
+        QFETCH(QString, program);
+        QFETCH(bool, beside);
+        QTemporaryDir root;
+        for (const QString& folder : folders)
+            QVERIFY(QDir().mkpath(root.filePath(folder)));
+        writeFile(root.filePath("file"), "not a folder");
+
+        const QString folder = InstallLayout(root.filePath(program)).userFilesDir("work");
+        QCOMPARE(folder, beside ? root.filePath(program + "/work")
+                                : InstallLayout::userDataDir() + "/work");
+        LightWorkStore store(folder);
+        const auto tidy = qScopeGuard([&] { QFile::remove(store.filePath()); });
+        QVERIFY(QDir(folder).exists());
+        QVERIFY(store.load().isEmpty());
+        QVERIFY(!store.loadedBroken());
+        QVERIFY(store.save(kTwoWorks));
+        QVERIFY(store.keptBrokenFile().isEmpty());
+        QCOMPARE(LightWorkStore(folder).load(), kTwoWorks);
+        QVERIFY(readFile(store.filePath()).contains("\n    {"));
     }
 };
 
