@@ -24,11 +24,6 @@ void turn(QWidget* target, bool up)
     QCoreApplication::sendEvent(target, &wheel);
 }
 
-QString centre(const KeyPageRig& rig, const char* wheel)
-{
-    return rig.widget<ModuleScrollValue>(wheel)->findChild<QLabel*>("labelTitle1")->text();
-}
-
 struct OptionsRig : KeyPageRig
 {
     OptionsRig()
@@ -38,7 +33,15 @@ struct OptionsRig : KeyPageRig
         keyboard->model().clearReceivedFrames();
     }
     QLineEdit* edit(const char* name) const { return widget<QLineEdit>(name); }
-    QSlider* slider(const char* name) const { return widget<QSlider>(name); }
+    // What a control shows: a wheel its centre, a slider its value, a line edit its text.
+    QString shown(const QString& name) const
+    {
+        QWidget* control = widget(qPrintable(name));
+        if (auto* wheel = qobject_cast<ModuleScrollValue*>(control))
+            return wheel->findChild<QLabel*>("labelTitle1")->text();
+        if (auto* slider = qobject_cast<QSlider*>(control)) return QString::number(slider->value());
+        return qobject_cast<QLineEdit*>(control)->text();
+    }
     // The sleep times as the firmware keeps them, in seconds.
     QList<int> sleep() const
     {
@@ -58,40 +61,80 @@ class TestKeyOptions : public QObject
 private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
 
-    void wheelsWriteAtOnce_data()
+    // Each control writes at once, one command per step: a wheel's notch, a line edit's text
+    // (whatever its slider can hold), the wheel over the text past the slider, a slider's
+    // every value as it is dragged.
+    void controlsWrite_data()
     {
-        QTest::addColumn<QString>("wheel");
-        QTest::addColumn<bool>("up");
+        // Steps: "wheel NAME up|down", "text NAME TEXT", "drag NAME" (a step right); then what
+        // one control shows ("NAME TEXT") and what the keyboard holds.
+        QTest::addColumn<QStringList>("steps");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<int>("rate");
-        QTest::addColumn<QList<int>>("sleep"); // seconds, slots 0 to 3
+        QTest::addColumn<QList<int>>("sleep");    // seconds, slots 0 to 3
+        QTest::addColumn<QList<int>>("debounce"); // each value written, in order
 
         // The keyboard starts at 1000 Hz and 300 s on the backlight slots (shown on "45 min",
-        // index 5, not "5 min"), 1800 s of deep sleep.
-        QTest::newRow("rate down a step")
-            << "frameSV1" << false << "500 hz" << 4 << QList<int>{300, 300, 1800, 1800};
+        // index 5, not "5 min"), 1800 s of deep sleep, a debounce of 2.
+        const QList<int> sleep{300, 300, 1800, 1800};
+        QTest::newRow("rate down a step") << QStringList{"wheel frameSV1 down"} << "frameSV1 500 hz"
+                                          << 4 << sleep << QList<int>{};
         QTest::newRow("rate up a step")
-            << "frameSV1" << true << "2000 hz" << 2 << QList<int>{300, 300, 1800, 1800};
+            << QStringList{"wheel frameSV1 up"} << "frameSV1 2000 hz" << 2 << sleep << QList<int>{};
         QTest::newRow("2.4G backlight: index 6 is 60 min")
-            << "frameSV2" << false << "60 min" << 3 << QList<int>{300, 3600, 1800, 1800};
+            << QStringList{"wheel frameSV2 down"} << "frameSV2 60 min" << 3
+            << QList<int>{300, 3600, 1800, 1800} << QList<int>{};
         QTest::newRow("Bluetooth backlight: index 4 is 30 min")
-            << "frameSV3" << true << "30 min" << 3 << QList<int>{1800, 300, 1800, 1800};
+            << QStringList{"wheel frameSV3 up"} << "frameSV3 30 min" << 3
+            << QList<int>{1800, 300, 1800, 1800} << QList<int>{};
+        QTest::newRow("1085 typed: slider at its end, 1085 written")
+            << QStringList{"text lineEditV1 1085"} << "horizontalSlider24Deep 1080" << 3
+            << QList<int>{300, 300, 1800, 1085 * 60} << QList<int>{};
+        QTest::newRow("Bluetooth deep sleep, a unit after the number")
+            << QStringList{"text lineEditV2 15 min"} << "horizontalSliderBTDeep 15" << 3
+            << QList<int>{300, 300, 900, 1800} << QList<int>{};
+        QTest::newRow("debounce") << QStringList{"text lineEditV3 7"}
+                                  << "horizontalSliderDebounce 7" << 3 << sleep << QList<int>{7};
+        QTest::newRow("the wheel over the text is not held by the slider")
+            << QStringList{"text lineEditV3 10", "wheel lineEditV3 up"}
+            << "horizontalSliderDebounce 10" << 3 << sleep << QList<int>{10, 11};
+        QTest::newRow("the wheel down over deep sleep")
+            << QStringList{"text lineEditV1 100", "wheel lineEditV1 down"}
+            << "horizontalSlider24Deep 99" << 3 << QList<int>{300, 300, 1800, 99 * 60}
+            << QList<int>{};
+        QTest::newRow("a drag writes every value")
+            << QStringList(3, "drag horizontalSliderDebounce") << "lineEditV3 5" << 3 << sleep
+            << QList<int>{3, 4, 5};
     }
-    void wheelsWriteAtOnce()
+    void controlsWrite()
     {
-        QFETCH(QString, wheel);
-        QFETCH(bool, up);
+        QFETCH(QStringList, steps);
         QFETCH(QString, shown);
         QFETCH(int, rate);
         QFETCH(QList<int>, sleep);
+        QFETCH(QList<int>, debounce);
 
         OptionsRig rig;
-        turn(rig.widget<ModuleScrollValue>(qPrintable(wheel)), up);
+        for (const QString& step : steps) {
+            QWidget* control = rig.widget(qPrintable(step.section(u' ', 1, 1)));
+            const QString arg = step.section(u' ', 2);
+            if (step.startsWith(QLatin1String("wheel ")))
+                turn(control, arg == QLatin1String("up"));
+            else if (step.startsWith(QLatin1String("text ")))
+                qobject_cast<QLineEdit*>(control)->setText(arg);
+            else
+                QTest::keyClick(control, Qt::Key_Right);
+        }
         rig.settle();
-        QCOMPARE(centre(rig, qPrintable(wheel)), shown);
+        QCOMPARE(rig.shown(shown.section(u' ', 0, 0)), shown.section(u' ', 1));
         QCOMPARE(int(rig.fw().reportRate()), rate);
         QCOMPARE(rig.sleep(), sleep);
-        QCOMPARE(rig.frameCount(), 1); // one command per notch
+        QList<int> debounced;
+        for (const QByteArray& f : rig.frames(CMD_SET_DEBOUNCE))
+            debounced << quint8(f[1]);
+        QCOMPARE(debounced, debounce);
+        QCOMPARE(int(rig.fw().debounce()), debounce.isEmpty() ? 2 : debounce.last());
+        QCOMPARE(rig.frameCount(), steps.size());
     }
 
     void panelShowsTheCache_data()
@@ -129,80 +172,15 @@ private slots:
         rig.mode(FrameKeySetting::Custom);
         rig.link->DoReadAll();
         QVERIFY(rig.settle());
-        QCOMPARE(centre(rig, "frameSV1"), rateShown);
-        QCOMPARE(centre(rig, "frameSV2"), backlightShown);
-        QCOMPARE(rig.edit("lineEditV1")->text(), QString::number(deepMinutes));
-        QCOMPARE(rig.slider("horizontalSlider24Deep")->value(), std::min(deepMinutes, 1080));
-        QCOMPARE(rig.edit("lineEditV3")->text(), QString::number(debounce));
+        QCOMPARE(rig.shown("frameSV1"), rateShown);
+        QCOMPARE(rig.shown("frameSV2"), backlightShown);
+        QCOMPARE(rig.shown("lineEditV1"), QString::number(deepMinutes));
+        QCOMPARE(rig.shown("horizontalSlider24Deep"), QString::number(std::min(deepMinutes, 1080)));
+        QCOMPARE(rig.shown("lineEditV3"), QString::number(debounce));
         // Showing it wrote nothing back.
         QVERIFY(rig.frames(CMD_SET_SLEEPTIME).isEmpty());
         QVERIFY(rig.frames(CMD_SET_DEBOUNCE).isEmpty());
         QVERIFY(rig.frames(CMD_SET_REPORT).isEmpty());
-    }
-
-    void lineEditsWriteTheirText_data()
-    {
-        QTest::addColumn<QString>("edit");
-        QTest::addColumn<QString>("slider");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("notch"); // then the wheel over the text: 1 up, -1 down, 0 none
-        QTest::addColumn<int>("sliderValue");
-        QTest::addColumn<QList<int>>("sleep");
-        QTest::addColumn<int>("debounce");
-
-        QTest::newRow("1085 typed: slider at its end, 1085 written")
-            << "lineEditV1"
-            << "horizontalSlider24Deep"
-            << "1085" << 0 << 1080 << QList<int>{300, 300, 1800, 1085 * 60} << 2;
-        QTest::newRow("Bluetooth deep sleep, a unit after the number")
-            << "lineEditV2"
-            << "horizontalSliderBTDeep"
-            << "15 min" << 0 << 15 << QList<int>{300, 300, 900, 1800} << 2;
-        QTest::newRow("debounce") << "lineEditV3"
-                                  << "horizontalSliderDebounce"
-                                  << "7" << 0 << 7 << QList<int>{300, 300, 1800, 1800} << 7;
-        QTest::newRow("the wheel over the text is not held by the slider")
-            << "lineEditV3"
-            << "horizontalSliderDebounce"
-            << "10" << 1 << 10 << QList<int>{300, 300, 1800, 1800} << 11;
-        QTest::newRow("the wheel down over deep sleep")
-            << "lineEditV1"
-            << "horizontalSlider24Deep"
-            << "100" << -1 << 99 << QList<int>{300, 300, 1800, 99 * 60} << 2;
-    }
-    void lineEditsWriteTheirText()
-    {
-        QFETCH(QString, edit);
-        QFETCH(QString, slider);
-        QFETCH(QString, text);
-        QFETCH(int, notch);
-        QFETCH(int, sliderValue);
-        QFETCH(QList<int>, sleep);
-        QFETCH(int, debounce);
-
-        OptionsRig rig;
-        QLineEdit* field = rig.edit(qPrintable(edit));
-        field->setText(text);
-        if (notch != 0) turn(field, notch > 0);
-        rig.settle();
-        QCOMPARE(rig.slider(qPrintable(slider))->value(), sliderValue);
-        QCOMPARE(rig.sleep(), sleep);
-        QCOMPARE(int(rig.fw().debounce()), debounce);
-        QCOMPARE(rig.frameCount(), notch == 0 ? 1 : 2);
-    }
-
-    void aDragWritesEveryValue()
-    {
-        OptionsRig rig;
-        QSlider* slider = rig.slider("horizontalSliderDebounce");
-        for (int i = 0; i < 3; ++i)
-            QTest::keyClick(slider, Qt::Key_Right);
-        rig.settle();
-        QCOMPARE(rig.edit("lineEditV3")->text(), QString("5"));
-        const QList<QByteArray> writes = rig.frames(CMD_SET_DEBOUNCE);
-        QCOMPARE(writes.size(), 3);
-        QCOMPARE(quint8(writes[0][1]), 3);
-        QCOMPARE(quint8(writes[2][1]), 5);
     }
 
     void lineEditsWaitOutTheRefresh_data()
