@@ -400,25 +400,21 @@ private slots:
     void savesWithoutAKeyDoNothing_data()
     {
         QTest::addColumn<int>("tab");
-        QTest::addColumn<bool>("keyA"); // A clicked first (the SnapKey tab's first key)
         QTest::addColumn<QString>("control");
 
-        QTest::newRow("DKS") << int(ModuleAdvancedKeys::DksTab) << false << "pushButton_OKDKS";
-        QTest::newRow("MT") << int(ModuleAdvancedKeys::MtTab) << false << "pushButton_OKMT";
-        QTest::newRow("TGL") << int(ModuleAdvancedKeys::TglTab) << false << "pushButton_OKTGL";
-        QTest::newRow("TGL kind") << int(ModuleAdvancedKeys::TglTab) << false << "radioButton_TGL2";
-        QTest::newRow("SnapKey with A alone")
-            << int(ModuleAdvancedKeys::SnapTab) << true << "pushButton_OKSnap";
+        // SnapKey with only its first key is in the SnapKey case.
+        QTest::newRow("DKS") << int(ModuleAdvancedKeys::DksTab) << "pushButton_OKDKS";
+        QTest::newRow("MT") << int(ModuleAdvancedKeys::MtTab) << "pushButton_OKMT";
+        QTest::newRow("TGL") << int(ModuleAdvancedKeys::TglTab) << "pushButton_OKTGL";
+        QTest::newRow("TGL kind") << int(ModuleAdvancedKeys::TglTab) << "radioButton_TGL2";
     }
     void savesWithoutAKeyDoNothing()
     {
         QFETCH(int, tab);
-        QFETCH(bool, keyA);
         QFETCH(QString, control);
 
         AdvancedRig rig;
         rig.tab(tab);
-        if (keyA) rig.click(kA);
         rig.press(qPrintable(control));
         QVERIFY(rig.wire().isEmpty());
         QCOMPARE(rig.fw().magnetValue(0x07, kPosA), 0u);
