@@ -2,6 +2,7 @@
 // plugged in again (virtual time), and, on the connection's real I/O thread, a reconnect while
 // a wireless read is blocked.
 
+#include "KeyPositions.h"
 #include "SimRig.h"
 
 #include <QMutex>
@@ -146,6 +147,33 @@ private slots:
             rig.compareCacheWithFirmware();
             if (QTest::currentTestFailed()) return;
         }
+    }
+
+    // Over the receiver, the answers to a burst of writes beyond the 64 reports the system keeps
+    // are lost. The writes all land; the reads still armed for them then stop waiting once one
+    // has waited in vain, so the link is free again within a second, not after minutes of reads
+    // that each wait their 400 ms. A write after the burst goes out and is answered.
+    void wirelessBurstBeyondTheKeptReplies()
+    {
+        SimRig rig(true);
+        const quint8 keyA = 0x04;
+        const int position = PositionOfCode(keyA);
+        rig.keyboard->model().clearReceivedFrames();
+        const qint64 start = rig.clock.elapsedMs();
+        constexpr int kBurst = 200;
+        for (int i = 1; i <= kBurst; ++i)
+            rig.conn->DoSetMagnetism(0x00, keyA, quint32(i), i == kBurst ? 1 : 0);
+        QVERIFY(rig.settle());
+        QCOMPARE(rig.fw().receivedFrames().size(), kBurst);
+        QCOMPARE(rig.fw().magnetValue(0x00, position), quint32(kBurst));
+        QVERIFY2(rig.clock.elapsedMs() - start < 1500,
+                 qPrintable(QString::number(rig.clock.elapsedMs() - start)));
+
+        QSignalSpy readBack(rig.conn.get(), &DialogDeviceConnect::onReadBack);
+        rig.conn->DoSetMagnetism(0x01, keyA, 77, 1);
+        QVERIFY(rig.settle());
+        QCOMPARE(rig.fw().magnetValue(0x01, position), 77u);
+        QCOMPARE(readBack.count(), 1);
     }
 
     // A wireless reply that doesn't come holds the I/O thread for 400 ms. A command queued and a

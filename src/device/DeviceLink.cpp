@@ -98,6 +98,8 @@ void DeviceLink::adopt(const Handles& opened)
 void DeviceLink::openWireless(const QByteArray& path, std::function<void(bool)> done)
 {
     closeHandles();
+    airReads = std::make_shared<AirReads>();
+    airSends = 0;
     job<Handles>(
         [&backend = hid, path] {
             Handles h;
@@ -181,9 +183,11 @@ void DeviceLink::pumpStep()
     HidHandle* handle = commandHandle;
     if (wireless) {
         armStep(kWirelessReadDelayMs, &DeviceLink::readStep);
+        ++airSends;
         job<bool>(
-            [&backend = hid, handle, frame] {
+            [&backend = hid, handle, frame, air = airReads] {
                 Frame::sendWireless(backend, handle, frame);
+                if (air) ++air->sendsDone;
                 return true;
             },
             [](bool) {});
@@ -204,10 +208,18 @@ void DeviceLink::readStep()
     HidHandle* handle = commandHandle;
     const bool overAir = wireless;
     job<Reply>(
-        [&backend = hid, handle, overAir] {
+        [&backend = hid, handle, overAir, air = airReads, sentBefore = airSends] {
             Reply r;
-            r.got = overAir ? Frame::takeReplyWireless(backend, handle, &r.data)
-                            : Frame::takeReplyWired(backend, handle, &r.data);
+            if (!overAir) {
+                r.got = Frame::takeReplyWired(backend, handle, &r.data);
+                return r;
+            }
+            const bool answeredAlready =
+                air && air->answeredBy > 0 && sentBefore <= air->answeredBy;
+            const quint64 sentAtStart = air ? air->sendsDone : 0;
+            r.got = Frame::takeReplyWireless(backend, handle, &r.data,
+                                             answeredAlready ? 0 : Frame::kWirelessReadTimeoutMs);
+            if (!r.got && !answeredAlready && air) air->answeredBy = sentAtStart;
             return r;
         },
         [this](Reply r) {

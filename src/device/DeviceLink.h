@@ -138,6 +138,20 @@ private:
     std::shared_ptr<std::atomic<quint64>> generation;
     // Set to cut the music round under way; each round gets its own.
     std::shared_ptr<std::atomic<bool>> musicStop;
+
+    // Over the receiver every frame's answer arrives as an input report, and the system keeps
+    // only so many of them (64 on Linux's hidraw). After a burst of writes, a read that waited
+    // its full limit in vain means that every frame sent before it began has had that long to
+    // be answered: the reads still armed for those frames take what is there without waiting,
+    // instead of holding the link for 400 ms each. Only the reads change; nothing else is sent.
+    // Touched by the executor's jobs only, which run one at a time; one per connection.
+    struct AirReads
+    {
+        quint64 sendsDone = 0;  // frames the executor has sent
+        quint64 answeredBy = 0; // frames sent before the last read that waited in vain
+    };
+    std::shared_ptr<AirReads> airReads;
+    quint64 airSends = 0; // frames handed to the executor, on the link's thread
     int armedSteps = 0;
     int jobsUnderWay = 0;
     int ownerSteps = 0;

@@ -66,15 +66,15 @@ bool takeReplyWired(HidBackend& hid, HidHandle* handle, QByteArray* reply)
     return true;
 }
 
-bool takeReplyWireless(HidBackend& hid, HidHandle* handle, QByteArray* reply)
+bool takeReplyWireless(HidBackend& hid, HidHandle* handle, QByteArray* reply, int timeoutMs)
 {
     quint8 buffer[kReplyBufferSize] = {};
-    int result = hid.readTimeout(handle, buffer, kWirelessLength, kWirelessReadTimeoutMs);
+    int result = hid.readTimeout(handle, buffer, kWirelessLength, timeoutMs);
     // The receiver can hand over a stale 06 77 report first. It is skipped once; whatever the
     // second read brings is the reply. The test is on the buffer, not on the result.
     if (buffer[0] == kWirelessReportId && buffer[1] == kStaleMarker) {
         std::fill(std::begin(buffer), std::end(buffer), 0);
-        result = hid.readTimeout(handle, buffer, kWirelessLength, kWirelessReadTimeoutMs);
+        result = hid.readTimeout(handle, buffer, kWirelessLength, timeoutMs);
     }
     if (result < 1) return false;
     *reply = QByteArray(reinterpret_cast<const char*>(buffer) + 2, std::max(0, result - 2));

@@ -38,7 +38,9 @@ void sendWireless(HidBackend& hid, HidHandle* handle, const QByteArray& closedFr
 
 // Takes a reply; false when there is none. The reply starts at the command byte.
 bool takeReplyWired(HidBackend& hid, HidHandle* handle, QByteArray* reply);
-bool takeReplyWireless(HidBackend& hid, HidHandle* handle, QByteArray* reply);
+// timeoutMs 0 takes only a reply that is already there.
+bool takeReplyWireless(HidBackend& hid, HidHandle* handle, QByteArray* reply,
+                       int timeoutMs = kWirelessReadTimeoutMs);
 
 // Upper-case hex with a blank between bytes: "8F 00 70".
 QString hexText(const QByteArray& bytes);
