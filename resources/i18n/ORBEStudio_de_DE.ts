@@ -5,473 +5,473 @@
     <name>DialogColorPicker</name>
     <message>
         <source>完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>按住并拖到屏幕上任意位置取色</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedrückt halten und an eine beliebige Stelle des Bildschirms ziehen, um die Farbe aufzunehmen</translation>
     </message>
     <message>
         <source>此桌面不允许程序读取屏幕，屏幕取色不可用</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Desktop erlaubt Programmen nicht, den Bildschirm zu lesen: Farbaufnahme vom Bildschirm nicht verfügbar</translation>
     </message>
 </context>
 <context>
     <name>DialogDeviceConsole</name>
     <message>
         <source>Orbe Studio 设备调试</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe Studio Gerätedebugging</translation>
     </message>
 </context>
 <context>
     <name>DialogFNPicker</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Linke Taste</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechte Taste</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Taste</translation>
     </message>
     <message>
         <source>前移</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorwärts</translation>
     </message>
     <message>
         <source>后移</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad links</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad rechts</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad hoch</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad runter</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild auf</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild ab</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardtasten</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterte Tasten</translation>
     </message>
     <message>
         <source>组合键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkombination</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>系统功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemfunktionen</translation>
     </message>
     <message>
         <source>鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Mausfunktionen</translation>
     </message>
     <message>
         <source>设置功能为:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuweisen:</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>宏%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro %1</translation>
     </message>
     <message>
         <source>播放方式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe:</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholungen</translation>
     </message>
     <message>
         <source>自动</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Solange gehalten</translation>
     </message>
     <message>
         <source>未录制的宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro nicht aufgenommen</translation>
     </message>
 </context>
 <context>
     <name>DialogKeyPickerBase</name>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardtasten</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterte Tasten</translation>
     </message>
     <message>
         <source>组合键：</source>
-        <translation type="unfinished"></translation>
+        <translation>Kombination:</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestätigen</translation>
     </message>
 </context>
 <context>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>设备名称：Orbe 7090</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerätename: Orbe 7090</translation>
     </message>
     <message>
         <source>键盘固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastatur-Firmware: V1.0</translation>
     </message>
     <message>
         <source>无线连接器固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfänger-Firmware: V1.0</translation>
     </message>
     <message>
         <source>当前版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Version: V1.0</translation>
     </message>
     <message>
         <source>检查键盘固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastatur-Firmware-Updates suchen</translation>
     </message>
     <message>
         <source>检查无线连接器固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfänger-Firmware-Updates suchen</translation>
     </message>
     <message>
         <source>操作教学</source>
-        <translation type="unfinished"></translation>
+        <translation>Anleitungen</translation>
     </message>
     <message>
         <source>关于Orbe</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Orbe</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceHolder</name>
     <message>
         <source>首页</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>键盘设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnet-Switches</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichteffekte</translation>
     </message>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>用户</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>板载 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Onboard %1</translation>
     </message>
     <message>
         <source>对码</source>
-        <translation type="unfinished"></translation>
+        <translation>Koppeln</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard wiederherstellen</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Hubkalibrierung</translation>
     </message>
     <message>
         <source>灯光设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Beleuchtung</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku</translation>
     </message>
 </context>
 <context>
     <name>FrameKeySetting</name>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterte Tasten</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Einstellungen</translation>
     </message>
     <message>
         <source>Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Fn-Ebene</translation>
     </message>
     <message>
         <source>选择按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste wählen</translation>
     </message>
     <message>
         <source>点击上方键盘中要修改的按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicke oben auf der Tastatur auf die Taste, die du ändern willst.</translation>
     </message>
     <message>
         <source>选择功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Funktion wählen</translation>
     </message>
     <message>
         <source>组合键、宏、系统功能或鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Tastenkombination, ein Makro, eine Systemfunktion oder eine Mausfunktion.</translation>
     </message>
     <message>
         <source>清除或禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen oder deaktivieren</translation>
     </message>
     <message>
         <source>右键点击按键可清除设置或禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechtsklick auf eine Taste löscht ihre Belegung oder deaktiviert sie.</translation>
     </message>
     <message>
         <source>自定义/Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefiniert / Fn-Ebene</translation>
     </message>
     <message>
         <source>自定义按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Tastenbelegung</translation>
     </message>
     <message>
         <source>Fn层按键设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten der Fn-Ebene</translation>
     </message>
     <message>
         <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
-        <translation type="unfinished"></translation>
+        <translation>*Klicke zuerst oben auf eine Taste; im folgenden Dialog wählst du eine Tastenkombination, ein Makro, eine Systemfunktion oder eine Mausfunktion für sie.</translation>
     </message>
     <message>
         <source>动态键程</source>
-        <translation type="unfinished"></translation>
+        <translation>Dynamischer Tastenhub</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten/Tippen</translation>
     </message>
     <message>
         <source>切换开关</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalten</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro</translation>
     </message>
     <message>
         <source>系统按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemtaste</translation>
     </message>
 </context>
 <context>
     <name>FrameLight</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>确认要删除此作品吗？</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Design löschen?</translation>
     </message>
     <message>
         <source>我的作品%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein Design %1</translation>
     </message>
     <message>
         <source>预览图,作品名称,管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau,Name,Verwalten</translation>
     </message>
     <message>
         <source>我的作品</source>
-        <translation type="unfinished"></translation>
+        <translation>Meine Designs</translation>
     </message>
     <message>
         <source>图%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene %1</translation>
     </message>
     <message>
         <source>点击按键或在键盘空白处拖出框选来上色；选择写入层即把图写入键盘，选择读取层即从键盘读回。</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicke auf eine Taste oder ziehe von einer freien Stelle der Tastatur einen Rahmen auf, um zu färben. Eine Ebene unter „Schreiben“ sendet das Bild an die Tastatur, eine Ebene unter „Lesen“ holt es zurück.</translation>
     </message>
     <message>
         <source>颜色:</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe:</translation>
     </message>
     <message>
         <source>取色器：</source>
-        <translation type="unfinished"></translation>
+        <translation>Pipette:</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>Pipette</translation>
     </message>
     <message>
         <source>随机颜色：</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufallsfarbe:</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>写入层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>In Ebene schreiben:</translation>
     </message>
     <message>
         <source>读取层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Ebene lesen:</translation>
     </message>
     <message>
         <source>作品名称:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
 </context>
 <context>
     <name>FrameMacro</name>
     <message>
         <source>延迟</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzögerung</translation>
     </message>
     <message>
         <source>占用</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegt</translation>
     </message>
     <message>
         <source>字节</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>停止录制</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme stoppen</translation>
     </message>
     <message>
         <source>开始录制</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme starten</translation>
     </message>
     <message>
         <source>宏列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Makro</translation>
     </message>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation type="unfinished"></translation>
+        <translation>Feste Verzögerung (ms):</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>松开</source>
-        <translation type="unfinished"></translation>
+        <translation>Loslassen</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken</translation>
     </message>
     <message>
         <source>录制时，在本页按下按键或点击鼠标即被记录</source>
-        <translation type="unfinished"></translation>
+        <translation>Während der Aufnahme werden Tasten und Klicks auf dieser Seite aufgezeichnet</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键或点击鼠标，或用“插入”逐个添加事件</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicke auf „Aufnahme starten“ und drücke dann Tasten oder klicke hier; oder füge Ereignisse einzeln mit „Einfügen“ hinzu</translation>
     </message>
 </context>
 <context>
@@ -578,37 +578,37 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapid Trigger (alle Tasten)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenhub (alle Tasten)</translation>
     </message>
 </context>
 <context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemeinstellungen</translation>
     </message>
     <message>
         <source>开机时自动开启本程序</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Programm bei der Anmeldung starten</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing1</name>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Hubkalibrierung</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -638,34 +638,34 @@
     <name>MacroItem</name>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>删除宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro löschen</translation>
     </message>
 </context>
 <context>
     <name>MacroSquare</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>在此处插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier einfügen</translation>
     </message>
     <message>
         <source>删除此事件</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Ereignis löschen</translation>
     </message>
 </context>
 <context>
@@ -803,1087 +803,1087 @@
     <name>MainWindow</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Meine Geräte</translation>
     </message>
     <message>
         <source>显示窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster anzeigen</translation>
     </message>
     <message>
         <source>隐藏窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster ausblenden</translation>
     </message>
     <message>
         <source>退出程序</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>正在搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Geräten</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>确定要退出 ORBE 驱动程序？</source>
-        <translation type="unfinished"></translation>
+        <translation>ORBE-Treiber beenden?</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimieren</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut suchen</translation>
     </message>
     <message>
         <source>点击设备进入设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicke auf ein Gerät, um es einzurichten</translation>
     </message>
 </context>
 <context>
     <name>ModuleAddMacroSquare</name>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>请选择添加宏事件类型</source>
-        <translation type="unfinished"></translation>
+        <translation>Art des Makro-Ereignisses wählen</translation>
     </message>
     <message>
         <source>键盘按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastaturtaste</translation>
     </message>
     <message>
         <source>鼠标按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Maustaste</translation>
     </message>
     <message>
         <source>鼠标位置</source>
-        <translation type="unfinished"></translation>
+        <translation>Mausposition</translation>
     </message>
     <message>
         <source>请按下按键......</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste drücken......</translation>
     </message>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>X(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>X(0 ~ 127):</translation>
     </message>
     <message>
         <source>Y(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>Y(0 ~ 127):</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>ModuleAdvancedKeys</name>
     <message>
         <source>动态键程(DKS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dynamischer Tastenhub (DKS)</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten/Tippen (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalten (TGL)</translation>
     </message>
     <message>
         <source>SnapKey</source>
-        <translation type="unfinished"></translation>
+        <translation>SnapKey</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>当前按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste</translation>
     </message>
     <message>
         <source>按键功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Funktion</translation>
     </message>
     <message>
         <source>一个按键在行程的四个位置各触发一个功能。点击上方键盘选择按键，点击行程数值调整触发点。</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Taste, bis zu vier Funktionen an vier Punkten ihres Hubs. Wähle die Taste oben auf der Tastatur; klicke auf einen Hubwert, um seinen Punkt zu verschieben.</translation>
     </message>
     <message>
         <source>单击时</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Tippen</translation>
     </message>
     <message>
         <source>按住时</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Halten</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation type="unfinished"></translation>
+        <translation>Wähle oben eine Taste und gib ihr zwei Funktionen, eine fürs Tippen und eine fürs Halten (auch Tastenkombinationen).</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange die Taste gehalten werden muss, damit es als Halten zählt</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Wähle oben eine Taste und gib ihr eine Funktion; ein Druck schaltet sie ein, der nächste aus, als Dauerfeuer oder als Halten.</translation>
     </message>
     <message>
         <source>连点</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauerfeuer</translation>
     </message>
     <message>
         <source>长按</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten</translation>
     </message>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei Tasten verbinden, jede oben auf der Tastatur gewählt: Sind beide gedrückt, gewinnt die zuletzt gedrückte.</translation>
     </message>
     <message>
         <source>选择A键</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste A</translation>
     </message>
     <message>
         <source>选择B键</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste B</translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Funktion</translation>
     </message>
     <message>
         <source>单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Tippen</translation>
     </message>
     <message>
         <source>按住</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSAdjust</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken (mm)</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSItem</name>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Funktion</translation>
     </message>
 </context>
 <context>
     <name>ModuleDeviceOptions</name>
     <message>
         <source>键盘回报率</source>
-        <translation type="unfinished"></translation>
+        <translation>Abfragerate</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G Beleuchtung aus</translation>
     </message>
     <message>
         <source>蓝牙关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth Beleuchtung aus</translation>
     </message>
     <message>
         <source>2.4G深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G Tiefschlaf nach</translation>
     </message>
     <message>
         <source>蓝牙深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth Tiefschlaf nach</translation>
     </message>
     <message>
         <source>按键防抖等级设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Entprellstufe</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfColor</name>
     <message>
         <source>炫彩</source>
-        <translation type="unfinished"></translation>
+        <translation>Regenbogen</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>Statisch</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>Atmen</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>Neon</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>Welle</translation>
     </message>
     <message>
         <source>系统默认</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgaben</translation>
     </message>
     <message>
         <source>灯带灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenlicht</translation>
     </message>
     <message>
         <source>单键</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzeltaste</translation>
     </message>
     <message>
         <source>灯效：</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekt:</translation>
     </message>
     <message>
         <source>速度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo:</translation>
     </message>
     <message>
         <source>亮度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit:</translation>
     </message>
     <message>
         <source>色彩：</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe:</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>Pipette</translation>
     </message>
     <message>
         <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicke auf eine Farbe: Sie dreht sich in die Mitte und färbt die Tasten</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfLumi</name>
     <message>
         <source>灯光亮度</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfMode</name>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>Statisch</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>Atmen</translation>
     </message>
     <message>
         <source>流星</source>
-        <translation type="unfinished"></translation>
+        <translation>Meteor</translation>
     </message>
     <message>
         <source>涟漪</source>
-        <translation type="unfinished"></translation>
+        <translation>Wellenringe</translation>
     </message>
     <message>
         <source>极光</source>
-        <translation type="unfinished"></translation>
+        <translation>Polarlicht</translation>
     </message>
     <message>
         <source>雨滴</source>
-        <translation type="unfinished"></translation>
+        <translation>Regentropfen</translation>
     </message>
     <message>
         <source>聚合</source>
-        <translation type="unfinished"></translation>
+        <translation>Sammeln</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>Neon</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>Welle</translation>
     </message>
     <message>
         <source>繁星点点</source>
-        <translation type="unfinished"></translation>
+        <translation>Sternenlicht</translation>
     </message>
     <message>
         <source>如影随形</source>
-        <translation type="unfinished"></translation>
+        <translation>Schatten</translation>
     </message>
     <message>
         <source>正弦波</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinuswelle</translation>
     </message>
     <message>
         <source>彩泉涌动</source>
-        <translation type="unfinished"></translation>
+        <translation>Fontäne</translation>
     </message>
     <message>
         <source>百花争艳</source>
-        <translation type="unfinished"></translation>
+        <translation>Blütenpracht</translation>
     </message>
     <message>
         <source>一石二鸟</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei Vögel</translation>
     </message>
     <message>
         <source>峰回路转</source>
-        <translation type="unfinished"></translation>
+        <translation>Serpentinen</translation>
     </message>
     <message>
         <source>斜风细雨</source>
-        <translation type="unfinished"></translation>
+        <translation>Nieselregen</translation>
     </message>
     <message>
         <source>踏雪无痕</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneespuren</translation>
     </message>
     <message>
         <source>层出不穷</source>
-        <translation type="unfinished"></translation>
+        <translation>Endlose Schichten</translation>
     </message>
     <message>
         <source>光影</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht und Schatten</translation>
     </message>
     <message>
         <source>音乐律动</source>
-        <translation type="unfinished"></translation>
+        <translation>Musik</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenes Bild</translation>
     </message>
     <message>
         <source>左</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>右</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>上</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben</translation>
     </message>
     <message>
         <source>下</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten</translation>
     </message>
     <message>
         <source>Z形</source>
-        <translation type="unfinished"></translation>
+        <translation>Zickzack</translation>
     </message>
     <message>
         <source>回形</source>
-        <translation type="unfinished"></translation>
+        <translation>Spirale</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach innen</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach außen</translation>
     </message>
     <message>
         <source>向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach rechts</translation>
     </message>
     <message>
         <source>向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach links</translation>
     </message>
     <message>
         <source>图案1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild 1</translation>
     </message>
     <message>
         <source>图案2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild 2</translation>
     </message>
     <message>
         <source>图案3</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild 3</translation>
     </message>
     <message>
         <source>图案4</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild 4</translation>
     </message>
     <message>
         <source>图案5</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild 5</translation>
     </message>
     <message>
         <source>顺时针</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Uhrzeigersinn</translation>
     </message>
     <message>
         <source>逆时针</source>
-        <translation type="unfinished"></translation>
+        <translation>Gegen den Uhrzeigersinn</translation>
     </message>
     <message>
         <source>无</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>灯效模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichteffekt</translation>
     </message>
     <message>
         <source>灯光播放模式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe:</translation>
     </message>
     <message>
         <source>打开时关闭键盘灯光</source>
-        <translation type="unfinished"></translation>
+        <translation>An: Tastaturbeleuchtung aus</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfSpeed</name>
     <message>
         <source>灯光速度</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
 </context>
 <context>
     <name>ModuleGenKeymapping</name>
     <message>
         <source>上一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorheriger Titel</translation>
     </message>
     <message>
         <source>下一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Titel</translation>
     </message>
     <message>
         <source>播放/暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe/Pause</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>Stumm</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauter</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation type="unfinished"></translation>
+        <translation>Leiser</translation>
     </message>
     <message>
         <source>播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediaplayer</translation>
     </message>
     <message>
         <source>计算器</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechner</translation>
     </message>
     <message>
         <source>邮件</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsplatz</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche</translation>
     </message>
     <message>
         <source>主页</source>
-        <translation type="unfinished"></translation>
+        <translation>Startseite</translation>
     </message>
     <message>
         <source>后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorwärts</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>收藏</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoriten</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit -</translation>
     </message>
     <message>
         <source>放大</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>缩小</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkleinern</translation>
     </message>
     <message>
         <source>呼出Siri</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprachassistent</translation>
     </message>
     <message>
         <source>切换输入法</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabemethode wechseln</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Fn键锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Fn-Sperre</translation>
     </message>
     <message>
         <source>锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm sperren</translation>
     </message>
     <message>
         <source>R-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechte Fn-Taste</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Loop</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Shift</translation>
     </message>
     <message>
         <source>电源</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein/Aus</translation>
     </message>
     <message>
         <source>睡眠</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruhezustand</translation>
     </message>
     <message>
         <source>唤醒</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufwecken</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Value</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Loop</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Linke Fn-Taste</translation>
     </message>
     <message>
         <source>恢复出厂设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkseinstellungen</translation>
     </message>
     <message>
         <source>锁Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Win-Taste sperren</translation>
     </message>
     <message>
         <source>切换Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows-Modus</translation>
     </message>
     <message>
         <source>切换Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Mac-Modus</translation>
     </message>
     <message>
         <source>系统切换</source>
-        <translation type="unfinished"></translation>
+        <translation>System wechseln</translation>
     </message>
     <message>
         <source>Check Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Check Battery</translation>
     </message>
     <message>
         <source>WASD切换</source>
-        <translation type="unfinished"></translation>
+        <translation>WASD und Pfeile tauschen</translation>
     </message>
     <message>
         <source>Fn层切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Fn-Ebene wechseln</translation>
     </message>
     <message>
         <source>设备节能</source>
-        <translation type="unfinished"></translation>
+        <translation>Energiesparen</translation>
     </message>
     <message>
         <source>APP CTRL切换</source>
-        <translation type="unfinished"></translation>
+        <translation>APP/CTRL wechseln</translation>
     </message>
     <message>
         <source>背光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht an/aus</translation>
     </message>
     <message>
         <source>背光灯效循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichteffekt durchschalten</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichteffekt +</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichteffekt -</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichthelligkeit durchschalten</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichthelligkeit +</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichthelligkeit -</translation>
     </message>
     <message>
         <source>背光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichttempo durchschalten</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichttempo -</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichttempo +</translation>
     </message>
     <message>
         <source>背光方向循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichtrichtung durchschalten</translation>
     </message>
     <message>
         <source>背光向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht nach links</translation>
     </message>
     <message>
         <source>背光向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht nach rechts</translation>
     </message>
     <message>
         <source>背光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichtfarbe durchschalten</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichtfarbe +</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichtfarbe -</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 0</translation>
     </message>
     <message>
         <source>Use Pic 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 1</translation>
     </message>
     <message>
         <source>Use Pic 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 2</translation>
     </message>
     <message>
         <source>Use Pic 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 3</translation>
     </message>
     <message>
         <source>Use Pic 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 4</translation>
     </message>
     <message>
         <source>Use Pic</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic</translation>
     </message>
     <message>
         <source>侧光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenlicht an/aus</translation>
     </message>
     <message>
         <source>侧光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenlicht: Helligkeit durchschalten</translation>
     </message>
     <message>
         <source>侧光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenlicht: Tempo durchschalten</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenlicht: Tempo +</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenlicht: Tempo -</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenlicht: Farbe durchschalten</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenlicht: Farbe +</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenlicht: Farbe -</translation>
     </message>
     <message>
         <source>2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G</translation>
     </message>
     <message>
         <source>蓝牙1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 1</translation>
     </message>
     <message>
         <source>蓝牙2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 2</translation>
     </message>
     <message>
         <source>蓝牙3</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 3</translation>
     </message>
     <message>
         <source>有线</source>
-        <translation type="unfinished"></translation>
+        <translation>Kabel</translation>
     </message>
     <message>
         <source>有线-蓝牙-2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>Kabel-Bluetooth-2.4G</translation>
     </message>
     <message>
         <source>2.4G配对</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G koppeln</translation>
     </message>
     <message>
         <source>蓝牙配对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth koppeln</translation>
     </message>
     <message>
         <source>Insert键</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfg-Taste</translation>
     </message>
     <message>
         <source>Print Screen键</source>
-        <translation type="unfinished"></translation>
+        <translation>Druck-Taste</translation>
     </message>
     <message>
         <source>左键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Linksklick</translation>
     </message>
     <message>
         <source>右键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechtsklick</translation>
     </message>
     <message>
         <source>中键按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelklick</translation>
     </message>
     <message>
         <source>光标前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorwärts-Taste</translation>
     </message>
     <message>
         <source>光标后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück-Taste</translation>
     </message>
     <message>
         <source>滚轮-向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad links</translation>
     </message>
     <message>
         <source>滚轮-向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad rechts</translation>
     </message>
     <message>
         <source>滚轮-向上</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad hoch</translation>
     </message>
     <message>
         <source>滚轮-向下</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad runter</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild auf</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild ab</translation>
     </message>
     <message>
         <source>XUP</source>
-        <translation type="unfinished"></translation>
+        <translation>XUP</translation>
     </message>
     <message>
         <source>XDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>XDOWN</translation>
     </message>
     <message>
         <source>YUP</source>
-        <translation type="unfinished"></translation>
+        <translation>YUP</translation>
     </message>
     <message>
         <source>YDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>YDOWN</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro</translation>
     </message>
     <message>
         <source>功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Funktion</translation>
     </message>
     <message>
         <source>鼠标</source>
-        <translation type="unfinished"></translation>
+        <translation>Maus</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Kombination</translation>
     </message>
 </context>
 <context>
     <name>ModuleKeyboard</name>
     <message>
         <source>已选中按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Taste</translation>
     </message>
     <message>
         <source>已修改按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Geänderte Taste</translation>
     </message>
     <message>
         <source>已禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Deaktivierte Taste</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegung löschen</translation>
     </message>
     <message>
         <source>禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste deaktivieren</translation>
     </message>
     <message>
         <source>取消禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste aktivieren</translation>
     </message>
 </context>
 <context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文简体</translation>
     </message>
     <message>
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>English</translation>
     </message>
     <message>
         <source>中文繁体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文繁体</translation>
     </message>
     <message>
         <source>日本語</source>
-        <translation type="unfinished"></translation>
+        <translation>日本語</translation>
     </message>
     <message>
         <source>한국어</source>
-        <translation type="unfinished"></translation>
+        <translation>한국어</translation>
     </message>
     <message>
         <source>Русский</source>
-        <translation type="unfinished"></translation>
+        <translation>Русский</translation>
     </message>
     <message>
         <source>Tiếng Việt</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng Việt</translation>
     </message>
     <message>
         <source>Português</source>
-        <translation type="unfinished"></translation>
+        <translation>Português</translation>
     </message>
     <message>
         <source>ภาษาไทย</source>
-        <translation type="unfinished"></translation>
+        <translation>ภาษาไทย</translation>
     </message>
     <message>
         <source>Deutsch</source>
-        <translation type="unfinished"></translation>
+        <translation>Deutsch</translation>
     </message>
     <message>
         <source>Français</source>
-        <translation type="unfinished"></translation>
+        <translation>Français</translation>
     </message>
     <message>
         <source>Svenska</source>
-        <translation type="unfinished"></translation>
+        <translation>Svenska</translation>
     </message>
     <message>
         <source>Italiano</source>
-        <translation type="unfinished"></translation>
+        <translation>Italiano</translation>
     </message>
     <message>
         <source>Türkçe</source>
-        <translation type="unfinished"></translation>
+        <translation>Türkçe</translation>
     </message>
 </context>
 <context>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Loslassen (mm)</translation>
     </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Makro</translation>
     </message>
 </context>
 <context>
     <name>ModuleRtSet</name>
     <message>
         <source>拖动指针或点按 − / + 调整，所有按键立即生效。</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiger ziehen oder − / + drücken: Alle Tasten übernehmen den Wert sofort.</translation>
     </message>
 </context>
 <context>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 7090 Anleitung: Makros</translation>
     </message>
     <message>
         <source>Orbe 2025-10-20</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 2025-10-20</translation>
     </message>
 </context>
 </TS>
