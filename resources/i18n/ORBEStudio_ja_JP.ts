@@ -5,473 +5,473 @@
     <name>DialogColorPicker</name>
     <message>
         <source>完成</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
     <message>
         <source>按住并拖到屏幕上任意位置取色</source>
-        <translation type="unfinished"></translation>
+        <translation>押したまま画面上の任意の場所へドラッグして色を取得</translation>
     </message>
     <message>
         <source>此桌面不允许程序读取屏幕，屏幕取色不可用</source>
-        <translation type="unfinished"></translation>
+        <translation>このデスクトップはプログラムによる画面の読み取りを許可していないため、画面から色を取得できません</translation>
     </message>
 </context>
 <context>
     <name>DialogDeviceConsole</name>
     <message>
         <source>Orbe Studio 设备调试</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe Studio デバイスデバッグ</translation>
     </message>
 </context>
 <context>
     <name>DialogFNPicker</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>左ボタン</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>右ボタン</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>中ボタン</translation>
     </message>
     <message>
         <source>前移</source>
-        <translation type="unfinished"></translation>
+        <translation>進む</translation>
     </message>
     <message>
         <source>后移</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation type="unfinished"></translation>
+        <translation>ホイール左</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation type="unfinished"></translation>
+        <translation>ホイール右</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation type="unfinished"></translation>
+        <translation>ホイール上</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation type="unfinished"></translation>
+        <translation>ホイール下</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page Up</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page Down</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>基本キー</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation type="unfinished"></translation>
+        <translation>拡張キー</translation>
     </message>
     <message>
         <source>组合键</source>
-        <translation type="unfinished"></translation>
+        <translation>キーの組み合わせ</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>マクロ</translation>
     </message>
     <message>
         <source>系统功能</source>
-        <translation type="unfinished"></translation>
+        <translation>システム機能</translation>
     </message>
     <message>
         <source>鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>マウス機能</translation>
     </message>
     <message>
         <source>设置功能为:</source>
-        <translation type="unfinished"></translation>
+        <translation>割り当て:</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>宏%1</source>
-        <translation type="unfinished"></translation>
+        <translation>マクロ%1</translation>
     </message>
     <message>
         <source>播放方式:</source>
-        <translation type="unfinished"></translation>
+        <translation>再生モード:</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>繰り返し</translation>
     </message>
     <message>
         <source>自动</source>
-        <translation type="unfinished"></translation>
+        <translation>自動</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>押している間</translation>
     </message>
     <message>
         <source>未录制的宏</source>
-        <translation type="unfinished"></translation>
+        <translation>未記録のマクロ</translation>
     </message>
 </context>
 <context>
     <name>DialogKeyPickerBase</name>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>基本キー</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation type="unfinished"></translation>
+        <translation>拡張キー</translation>
     </message>
     <message>
         <source>组合键：</source>
-        <translation type="unfinished"></translation>
+        <translation>組み合わせ：</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation type="unfinished"></translation>
+        <translation>確認</translation>
     </message>
 </context>
 <context>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>设备名称：Orbe 7090</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス名：Orbe 7090</translation>
     </message>
     <message>
         <source>键盘固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>キーボードファームウェア：V1.0</translation>
     </message>
     <message>
         <source>无线连接器固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>レシーバーファームウェア：V1.0</translation>
     </message>
     <message>
         <source>当前版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のバージョン：V1.0</translation>
     </message>
     <message>
         <source>检查键盘固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>キーボードのファームウェア更新を確認</translation>
     </message>
     <message>
         <source>检查无线连接器固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>レシーバーのファームウェア更新を確認</translation>
     </message>
     <message>
         <source>操作教学</source>
-        <translation type="unfinished"></translation>
+        <translation>使い方</translation>
     </message>
     <message>
         <source>关于Orbe</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbeについて</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceHolder</name>
     <message>
         <source>首页</source>
-        <translation type="unfinished"></translation>
+        <translation>ホーム</translation>
     </message>
     <message>
         <source>键盘设置</source>
-        <translation type="unfinished"></translation>
+        <translation>キー設定</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>磁気スイッチ</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>マクロ</translation>
     </message>
     <message>
         <source>灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>ライティング</translation>
     </message>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>用户</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>板载 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>オンボード %1</translation>
     </message>
     <message>
         <source>对码</source>
-        <translation type="unfinished"></translation>
+        <translation>ペアリング</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation type="unfinished"></translation>
+        <translation>初期設定に戻す</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>ストローク校正</translation>
     </message>
     <message>
         <source>灯光设置</source>
-        <translation type="unfinished"></translation>
+        <translation>ライト設定</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー</translation>
     </message>
 </context>
 <context>
     <name>FrameKeySetting</name>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタム</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation type="unfinished"></translation>
+        <translation>アドバンスドキー</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation type="unfinished"></translation>
+        <translation>その他の設定</translation>
     </message>
     <message>
         <source>Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Fnレイヤー</translation>
     </message>
     <message>
         <source>选择按键</source>
-        <translation type="unfinished"></translation>
+        <translation>キーを選ぶ</translation>
     </message>
     <message>
         <source>点击上方键盘中要修改的按键</source>
-        <translation type="unfinished"></translation>
+        <translation>上のキーボードで変更したいキーをクリックします。</translation>
     </message>
     <message>
         <source>选择功能</source>
-        <translation type="unfinished"></translation>
+        <translation>機能を選ぶ</translation>
     </message>
     <message>
         <source>组合键、宏、系统功能或鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>キーの組み合わせ、マクロ、システム機能、マウス機能から選べます。</translation>
     </message>
     <message>
         <source>清除或禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>解除または無効化</translation>
     </message>
     <message>
         <source>右键点击按键可清除设置或禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>キーを右クリックすると設定の解除やキーの無効化ができます。</translation>
     </message>
     <message>
         <source>自定义/Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタム / Fnレイヤー</translation>
     </message>
     <message>
         <source>自定义按键</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタムキー</translation>
     </message>
     <message>
         <source>Fn层按键设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Fnレイヤーのキー</translation>
     </message>
     <message>
         <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
-        <translation type="unfinished"></translation>
+        <translation>*まず上のキーをクリックし、開いたダイアログでキーの組み合わせ、マクロ、システム機能、マウス機能を選んで割り当てます。</translation>
     </message>
     <message>
         <source>动态键程</source>
-        <translation type="unfinished"></translation>
+        <translation>ダイナミックキーストローク</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation type="unfinished"></translation>
+        <translation>長押し/タップ</translation>
     </message>
     <message>
         <source>切换开关</source>
-        <translation type="unfinished"></translation>
+        <translation>トグル</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>マクロ</translation>
     </message>
     <message>
         <source>系统按键</source>
-        <translation type="unfinished"></translation>
+        <translation>システムキー</translation>
     </message>
 </context>
 <context>
     <name>FrameLight</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>お知らせ</translation>
     </message>
     <message>
         <source>确认要删除此作品吗？</source>
-        <translation type="unfinished"></translation>
+        <translation>この作品を削除しますか？</translation>
     </message>
     <message>
         <source>我的作品%1</source>
-        <translation type="unfinished"></translation>
+        <translation>マイ作品%1</translation>
     </message>
     <message>
         <source>预览图,作品名称,管理</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビュー,名前,管理</translation>
     </message>
     <message>
         <source>我的作品</source>
-        <translation type="unfinished"></translation>
+        <translation>マイ作品</translation>
     </message>
     <message>
         <source>图%1</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー%1</translation>
     </message>
     <message>
         <source>点击按键或在键盘空白处拖出框选来上色；选择写入层即把图写入键盘，选择读取层即从键盘读回。</source>
-        <translation type="unfinished"></translation>
+        <translation>キーをクリックするか、キーボードの空いた所から枠をドラッグして色を塗ります。書き込むレイヤーを選ぶとキーボードへ送り、読み込むレイヤーを選ぶとキーボードから読み戻します。</translation>
     </message>
     <message>
         <source>颜色:</source>
-        <translation type="unfinished"></translation>
+        <translation>色:</translation>
     </message>
     <message>
         <source>取色器：</source>
-        <translation type="unfinished"></translation>
+        <translation>スポイト：</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>スポイト</translation>
     </message>
     <message>
         <source>随机颜色：</source>
-        <translation type="unfinished"></translation>
+        <translation>ランダムカラー：</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>クリア</translation>
     </message>
     <message>
         <source>写入层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込みレイヤー:</translation>
     </message>
     <message>
         <source>读取层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みレイヤー:</translation>
     </message>
     <message>
         <source>作品名称:</source>
-        <translation type="unfinished"></translation>
+        <translation>作品名:</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
 </context>
 <context>
     <name>FrameMacro</name>
     <message>
         <source>延迟</source>
-        <translation type="unfinished"></translation>
+        <translation>ディレイ</translation>
     </message>
     <message>
         <source>占用</source>
-        <translation type="unfinished"></translation>
+        <translation>使用量</translation>
     </message>
     <message>
         <source>字节</source>
-        <translation type="unfinished"></translation>
+        <translation>バイト</translation>
     </message>
     <message>
         <source>停止录制</source>
-        <translation type="unfinished"></translation>
+        <translation>記録停止</translation>
     </message>
     <message>
         <source>开始录制</source>
-        <translation type="unfinished"></translation>
+        <translation>記録開始</translation>
     </message>
     <message>
         <source>宏列表</source>
-        <translation type="unfinished"></translation>
+        <translation>マクロ一覧</translation>
     </message>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>新規マクロ</translation>
     </message>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>挿入</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>全消去</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation type="unfinished"></translation>
+        <translation>固定ディレイ(ms):</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>松开</source>
-        <translation type="unfinished"></translation>
+        <translation>離す</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>押す</translation>
     </message>
     <message>
         <source>录制时，在本页按下按键或点击鼠标即被记录</source>
-        <translation type="unfinished"></translation>
+        <translation>記録中はこのページでのキー入力とクリックが記録されます</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键或点击鼠标，或用“插入”逐个添加事件</source>
-        <translation type="unfinished"></translation>
+        <translation>「記録開始」をクリックしてからキーを押すかここをクリック、または「挿入」でイベントを一つずつ追加</translation>
     </message>
 </context>
 <context>
@@ -578,37 +578,37 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>ラピッドトリガー(全キー)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>キーストローク(全キー)</translation>
     </message>
 </context>
 <context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
-        <translation type="unfinished"></translation>
+        <translation>システム設定</translation>
     </message>
     <message>
         <source>开机时自动开启本程序</source>
-        <translation type="unfinished"></translation>
+        <translation>ログイン時にこのプログラムを起動する</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing1</name>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>ストローク校正</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -638,34 +638,34 @@
     <name>MacroItem</name>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を変更</translation>
     </message>
     <message>
         <source>删除宏</source>
-        <translation type="unfinished"></translation>
+        <translation>マクロを削除</translation>
     </message>
 </context>
 <context>
     <name>MacroSquare</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>中</translation>
     </message>
     <message>
         <source>在此处插入</source>
-        <translation type="unfinished"></translation>
+        <translation>ここに挿入</translation>
     </message>
     <message>
         <source>删除此事件</source>
-        <translation type="unfinished"></translation>
+        <translation>このイベントを削除</translation>
     </message>
 </context>
 <context>
@@ -803,1087 +803,1087 @@
     <name>MainWindow</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation type="unfinished"></translation>
+        <translation>マイデバイス</translation>
     </message>
     <message>
         <source>显示窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウを表示</translation>
     </message>
     <message>
         <source>隐藏窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウを隠す</translation>
     </message>
     <message>
         <source>退出程序</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
     <message>
         <source>正在搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスを検索中</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>お知らせ</translation>
     </message>
     <message>
         <source>确定要退出 ORBE 驱动程序？</source>
-        <translation type="unfinished"></translation>
+        <translation>ORBE ドライバーを終了しますか？</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>最小化</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>再検索</translation>
     </message>
     <message>
         <source>点击设备进入设置</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスをクリックして設定</translation>
     </message>
 </context>
 <context>
     <name>ModuleAddMacroSquare</name>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>挿入</translation>
     </message>
     <message>
         <source>请选择添加宏事件类型</source>
-        <translation type="unfinished"></translation>
+        <translation>追加するマクロイベントの種類を選択</translation>
     </message>
     <message>
         <source>键盘按键</source>
-        <translation type="unfinished"></translation>
+        <translation>キーボードのキー</translation>
     </message>
     <message>
         <source>鼠标按键</source>
-        <translation type="unfinished"></translation>
+        <translation>マウスボタン</translation>
     </message>
     <message>
         <source>鼠标位置</source>
-        <translation type="unfinished"></translation>
+        <translation>マウス位置</translation>
     </message>
     <message>
         <source>请按下按键......</source>
-        <translation type="unfinished"></translation>
+        <translation>キーを押してください......</translation>
     </message>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>中</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>X(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>X(0 ~ 127):</translation>
     </message>
     <message>
         <source>Y(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>Y(0 ~ 127):</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>ModuleAdvancedKeys</name>
     <message>
         <source>动态键程(DKS)</source>
-        <translation type="unfinished"></translation>
+        <translation>ダイナミックキーストローク(DKS)</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation type="unfinished"></translation>
+        <translation>長押し/タップ(MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
-        <translation type="unfinished"></translation>
+        <translation>トグル(TGL)</translation>
     </message>
     <message>
         <source>SnapKey</source>
-        <translation type="unfinished"></translation>
+        <translation>SnapKey</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>当前按键</source>
-        <translation type="unfinished"></translation>
+        <translation>キー</translation>
     </message>
     <message>
         <source>按键功能</source>
-        <translation type="unfinished"></translation>
+        <translation>機能</translation>
     </message>
     <message>
         <source>一个按键在行程的四个位置各触发一个功能。点击上方键盘选择按键，点击行程数值调整触发点。</source>
-        <translation type="unfinished"></translation>
+        <translation>1つのキーに、ストロークの4つの位置でそれぞれ機能を割り当てます。上のキーボードでキーを選び、ストローク値をクリックして位置を調整します。</translation>
     </message>
     <message>
         <source>单击时</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ時</translation>
     </message>
     <message>
         <source>按住时</source>
-        <translation type="unfinished"></translation>
+        <translation>長押し時</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation type="unfinished"></translation>
+        <translation>上のキーを選び、タップと長押しの2つの機能を設定します(キーの組み合わせも可)。</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation type="unfinished"></translation>
+        <translation>「長押し」と判定されるまでの時間</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
-        <translation type="unfinished"></translation>
+        <translation>上のキーを選んで機能を設定します。押すとオン、もう一度押すとオフ。連打または長押しとして動作します。</translation>
     </message>
     <message>
         <source>连点</source>
-        <translation type="unfinished"></translation>
+        <translation>連打</translation>
     </message>
     <message>
         <source>长按</source>
-        <translation type="unfinished"></translation>
+        <translation>長押し</translation>
     </message>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation type="unfinished"></translation>
+        <translation>上のキーボードで2つのキーを選んで結びつけます。両方が押されている間は、後から押したキーが優先されます。</translation>
     </message>
     <message>
         <source>选择A键</source>
-        <translation type="unfinished"></translation>
+        <translation>キーA</translation>
     </message>
     <message>
         <source>选择B键</source>
-        <translation type="unfinished"></translation>
+        <translation>キーB</translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation type="unfinished"></translation>
+        <translation>未選択</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>機能なし</translation>
     </message>
     <message>
         <source>单击</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ</translation>
     </message>
     <message>
         <source>按住</source>
-        <translation type="unfinished"></translation>
+        <translation>長押し</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSAdjust</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>押下(mm)</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSItem</name>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>機能なし</translation>
     </message>
 </context>
 <context>
     <name>ModuleDeviceOptions</name>
     <message>
         <source>键盘回报率</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートレート</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4Gでバックライトオフ</translation>
     </message>
     <message>
         <source>蓝牙关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetoothでバックライトオフ</translation>
     </message>
     <message>
         <source>2.4G深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4Gディープスリープまで</translation>
     </message>
     <message>
         <source>蓝牙深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetoothディープスリープまで</translation>
     </message>
     <message>
         <source>按键防抖等级设置</source>
-        <translation type="unfinished"></translation>
+        <translation>チャタリング防止レベル</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfColor</name>
     <message>
         <source>炫彩</source>
-        <translation type="unfinished"></translation>
+        <translation>レインボー</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタム</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>常時点灯</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>呼吸</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>ストリーム</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>ネオン</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>ウェーブ</translation>
     </message>
     <message>
         <source>系统默认</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット</translation>
     </message>
     <message>
         <source>灯带灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドライト</translation>
     </message>
     <message>
         <source>单键</source>
-        <translation type="unfinished"></translation>
+        <translation>単キー</translation>
     </message>
     <message>
         <source>灯效：</source>
-        <translation type="unfinished"></translation>
+        <translation>エフェクト：</translation>
     </message>
     <message>
         <source>速度：</source>
-        <translation type="unfinished"></translation>
+        <translation>速度：</translation>
     </message>
     <message>
         <source>亮度：</source>
-        <translation type="unfinished"></translation>
+        <translation>明るさ：</translation>
     </message>
     <message>
         <source>色彩：</source>
-        <translation type="unfinished"></translation>
+        <translation>カラー：</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>スポイト</translation>
     </message>
     <message>
         <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>色をクリックすると中央に回転し、キーのライト色になります</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfLumi</name>
     <message>
         <source>灯光亮度</source>
-        <translation type="unfinished"></translation>
+        <translation>明るさ</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfMode</name>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>常時点灯</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>呼吸</translation>
     </message>
     <message>
         <source>流星</source>
-        <translation type="unfinished"></translation>
+        <translation>流星</translation>
     </message>
     <message>
         <source>涟漪</source>
-        <translation type="unfinished"></translation>
+        <translation>波紋</translation>
     </message>
     <message>
         <source>极光</source>
-        <translation type="unfinished"></translation>
+        <translation>オーロラ</translation>
     </message>
     <message>
         <source>雨滴</source>
-        <translation type="unfinished"></translation>
+        <translation>雨粒</translation>
     </message>
     <message>
         <source>聚合</source>
-        <translation type="unfinished"></translation>
+        <translation>集束</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>ストリーム</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>ネオン</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>ウェーブ</translation>
     </message>
     <message>
         <source>繁星点点</source>
-        <translation type="unfinished"></translation>
+        <translation>星空</translation>
     </message>
     <message>
         <source>如影随形</source>
-        <translation type="unfinished"></translation>
+        <translation>シャドウ</translation>
     </message>
     <message>
         <source>正弦波</source>
-        <translation type="unfinished"></translation>
+        <translation>正弦波</translation>
     </message>
     <message>
         <source>彩泉涌动</source>
-        <translation type="unfinished"></translation>
+        <translation>噴水</translation>
     </message>
     <message>
         <source>百花争艳</source>
-        <translation type="unfinished"></translation>
+        <translation>百花繚乱</translation>
     </message>
     <message>
         <source>一石二鸟</source>
-        <translation type="unfinished"></translation>
+        <translation>一石二鳥</translation>
     </message>
     <message>
         <source>峰回路转</source>
-        <translation type="unfinished"></translation>
+        <translation>紆余曲折</translation>
     </message>
     <message>
         <source>斜风细雨</source>
-        <translation type="unfinished"></translation>
+        <translation>小雨</translation>
     </message>
     <message>
         <source>踏雪无痕</source>
-        <translation type="unfinished"></translation>
+        <translation>雪の足跡</translation>
     </message>
     <message>
         <source>层出不穷</source>
-        <translation type="unfinished"></translation>
+        <translation>次々と</translation>
     </message>
     <message>
         <source>光影</source>
-        <translation type="unfinished"></translation>
+        <translation>光と影</translation>
     </message>
     <message>
         <source>音乐律动</source>
-        <translation type="unfinished"></translation>
+        <translation>ミュージック</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタム画像</translation>
     </message>
     <message>
         <source>左</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>右</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>上</source>
-        <translation type="unfinished"></translation>
+        <translation>上</translation>
     </message>
     <message>
         <source>下</source>
-        <translation type="unfinished"></translation>
+        <translation>下</translation>
     </message>
     <message>
         <source>Z形</source>
-        <translation type="unfinished"></translation>
+        <translation>ジグザグ</translation>
     </message>
     <message>
         <source>回形</source>
-        <translation type="unfinished"></translation>
+        <translation>渦巻き</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>内向き</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>外向き</translation>
     </message>
     <message>
         <source>向右</source>
-        <translation type="unfinished"></translation>
+        <translation>右へ</translation>
     </message>
     <message>
         <source>向左</source>
-        <translation type="unfinished"></translation>
+        <translation>左へ</translation>
     </message>
     <message>
         <source>图案1</source>
-        <translation type="unfinished"></translation>
+        <translation>図案1</translation>
     </message>
     <message>
         <source>图案2</source>
-        <translation type="unfinished"></translation>
+        <translation>図案2</translation>
     </message>
     <message>
         <source>图案3</source>
-        <translation type="unfinished"></translation>
+        <translation>図案3</translation>
     </message>
     <message>
         <source>图案4</source>
-        <translation type="unfinished"></translation>
+        <translation>図案4</translation>
     </message>
     <message>
         <source>图案5</source>
-        <translation type="unfinished"></translation>
+        <translation>図案5</translation>
     </message>
     <message>
         <source>顺时针</source>
-        <translation type="unfinished"></translation>
+        <translation>時計回り</translation>
     </message>
     <message>
         <source>逆时针</source>
-        <translation type="unfinished"></translation>
+        <translation>反時計回り</translation>
     </message>
     <message>
         <source>无</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>灯效模式</source>
-        <translation type="unfinished"></translation>
+        <translation>ライトエフェクト</translation>
     </message>
     <message>
         <source>灯光播放模式:</source>
-        <translation type="unfinished"></translation>
+        <translation>再生モード:</translation>
     </message>
     <message>
         <source>打开时关闭键盘灯光</source>
-        <translation type="unfinished"></translation>
+        <translation>オン：キーボードのライトを消灯</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfSpeed</name>
     <message>
         <source>灯光速度</source>
-        <translation type="unfinished"></translation>
+        <translation>速度</translation>
     </message>
 </context>
 <context>
     <name>ModuleGenKeymapping</name>
     <message>
         <source>上一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>前の曲</translation>
     </message>
     <message>
         <source>下一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>次の曲</translation>
     </message>
     <message>
         <source>播放/暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>再生/一時停止</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>停止</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>ミュート</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation type="unfinished"></translation>
+        <translation>音量+</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation type="unfinished"></translation>
+        <translation>音量-</translation>
     </message>
     <message>
         <source>播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>メディアプレーヤー</translation>
     </message>
     <message>
         <source>计算器</source>
-        <translation type="unfinished"></translation>
+        <translation>電卓</translation>
     </message>
     <message>
         <source>邮件</source>
-        <translation type="unfinished"></translation>
+        <translation>メール</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation type="unfinished"></translation>
+        <translation>マイコンピューター</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>検索</translation>
     </message>
     <message>
         <source>主页</source>
-        <translation type="unfinished"></translation>
+        <translation>ホームページ</translation>
     </message>
     <message>
         <source>后退</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>前进</source>
-        <translation type="unfinished"></translation>
+        <translation>進む</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>收藏</source>
-        <translation type="unfinished"></translation>
+        <translation>お気に入り</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>画面輝度+</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>画面輝度-</translation>
     </message>
     <message>
         <source>放大</source>
-        <translation type="unfinished"></translation>
+        <translation>拡大</translation>
     </message>
     <message>
         <source>缩小</source>
-        <translation type="unfinished"></translation>
+        <translation>縮小</translation>
     </message>
     <message>
         <source>呼出Siri</source>
-        <translation type="unfinished"></translation>
+        <translation>音声アシスタント</translation>
     </message>
     <message>
         <source>切换输入法</source>
-        <translation type="unfinished"></translation>
+        <translation>入力方式の切替</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>Fn键锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Fnロック</translation>
     </message>
     <message>
         <source>锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>画面ロック</translation>
     </message>
     <message>
         <source>R-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>右Fnキー</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Loop</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Shift</translation>
     </message>
     <message>
         <source>电源</source>
-        <translation type="unfinished"></translation>
+        <translation>電源</translation>
     </message>
     <message>
         <source>睡眠</source>
-        <translation type="unfinished"></translation>
+        <translation>スリープ</translation>
     </message>
     <message>
         <source>唤醒</source>
-        <translation type="unfinished"></translation>
+        <translation>ウェイク</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Value</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Loop</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>左Fnキー</translation>
     </message>
     <message>
         <source>恢复出厂设置</source>
-        <translation type="unfinished"></translation>
+        <translation>工場出荷時に戻す</translation>
     </message>
     <message>
         <source>锁Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Winキーロック</translation>
     </message>
     <message>
         <source>切换Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Windowsモード</translation>
     </message>
     <message>
         <source>切换Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Macモード</translation>
     </message>
     <message>
         <source>系统切换</source>
-        <translation type="unfinished"></translation>
+        <translation>OS切替</translation>
     </message>
     <message>
         <source>Check Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Check Battery</translation>
     </message>
     <message>
         <source>WASD切换</source>
-        <translation type="unfinished"></translation>
+        <translation>WASDと矢印キーを入替</translation>
     </message>
     <message>
         <source>Fn层切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Fnレイヤー切替</translation>
     </message>
     <message>
         <source>设备节能</source>
-        <translation type="unfinished"></translation>
+        <translation>省電力</translation>
     </message>
     <message>
         <source>APP CTRL切换</source>
-        <translation type="unfinished"></translation>
+        <translation>APP/CTRL切替</translation>
     </message>
     <message>
         <source>背光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライトオン/オフ</translation>
     </message>
     <message>
         <source>背光灯效循环</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト効果切替</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト効果+</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト効果-</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト輝度切替</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト輝度+</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト輝度-</translation>
     </message>
     <message>
         <source>背光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト速度切替</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト速度-</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト速度+</translation>
     </message>
     <message>
         <source>背光方向循环</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト方向切替</translation>
     </message>
     <message>
         <source>背光向左</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト左へ</translation>
     </message>
     <message>
         <source>背光向右</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト右へ</translation>
     </message>
     <message>
         <source>背光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト色切替</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト色+</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>バックライト色-</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 0</translation>
     </message>
     <message>
         <source>Use Pic 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 1</translation>
     </message>
     <message>
         <source>Use Pic 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 2</translation>
     </message>
     <message>
         <source>Use Pic 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 3</translation>
     </message>
     <message>
         <source>Use Pic 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 4</translation>
     </message>
     <message>
         <source>Use Pic</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic</translation>
     </message>
     <message>
         <source>侧光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドライトオン/オフ</translation>
     </message>
     <message>
         <source>侧光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドライト輝度切替</translation>
     </message>
     <message>
         <source>侧光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドライト速度切替</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドライト速度+</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドライト速度-</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドライト色切替</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドライト色+</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドライト色-</translation>
     </message>
     <message>
         <source>2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G</translation>
     </message>
     <message>
         <source>蓝牙1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 1</translation>
     </message>
     <message>
         <source>蓝牙2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 2</translation>
     </message>
     <message>
         <source>蓝牙3</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 3</translation>
     </message>
     <message>
         <source>有线</source>
-        <translation type="unfinished"></translation>
+        <translation>有線</translation>
     </message>
     <message>
         <source>有线-蓝牙-2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>有線-Bluetooth-2.4G</translation>
     </message>
     <message>
         <source>2.4G配对</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4Gペアリング</translation>
     </message>
     <message>
         <source>蓝牙配对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetoothペアリング</translation>
     </message>
     <message>
         <source>Insert键</source>
-        <translation type="unfinished"></translation>
+        <translation>Insertキー</translation>
     </message>
     <message>
         <source>Print Screen键</source>
-        <translation type="unfinished"></translation>
+        <translation>Print Screenキー</translation>
     </message>
     <message>
         <source>左键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>左クリック</translation>
     </message>
     <message>
         <source>右键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>右クリック</translation>
     </message>
     <message>
         <source>中键按下</source>
-        <translation type="unfinished"></translation>
+        <translation>中クリック</translation>
     </message>
     <message>
         <source>光标前进</source>
-        <translation type="unfinished"></translation>
+        <translation>進むボタン</translation>
     </message>
     <message>
         <source>光标后退</source>
-        <translation type="unfinished"></translation>
+        <translation>戻るボタン</translation>
     </message>
     <message>
         <source>滚轮-向左</source>
-        <translation type="unfinished"></translation>
+        <translation>ホイール左</translation>
     </message>
     <message>
         <source>滚轮-向右</source>
-        <translation type="unfinished"></translation>
+        <translation>ホイール右</translation>
     </message>
     <message>
         <source>滚轮-向上</source>
-        <translation type="unfinished"></translation>
+        <translation>ホイール上</translation>
     </message>
     <message>
         <source>滚轮-向下</source>
-        <translation type="unfinished"></translation>
+        <translation>ホイール下</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page Up</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page Down</translation>
     </message>
     <message>
         <source>XUP</source>
-        <translation type="unfinished"></translation>
+        <translation>XUP</translation>
     </message>
     <message>
         <source>XDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>XDOWN</translation>
     </message>
     <message>
         <source>YUP</source>
-        <translation type="unfinished"></translation>
+        <translation>YUP</translation>
     </message>
     <message>
         <source>YDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>YDOWN</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>マクロ</translation>
     </message>
     <message>
         <source>功能</source>
-        <translation type="unfinished"></translation>
+        <translation>機能</translation>
     </message>
     <message>
         <source>鼠标</source>
-        <translation type="unfinished"></translation>
+        <translation>マウス</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>組み合わせ</translation>
     </message>
 </context>
 <context>
     <name>ModuleKeyboard</name>
     <message>
         <source>已选中按键</source>
-        <translation type="unfinished"></translation>
+        <translation>選択中のキー</translation>
     </message>
     <message>
         <source>已修改按键</source>
-        <translation type="unfinished"></translation>
+        <translation>変更済みのキー</translation>
     </message>
     <message>
         <source>已禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>無効化したキー</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を解除</translation>
     </message>
     <message>
         <source>禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>キーを無効化</translation>
     </message>
     <message>
         <source>取消禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>無効化を解除</translation>
     </message>
 </context>
 <context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文简体</translation>
     </message>
     <message>
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>English</translation>
     </message>
     <message>
         <source>中文繁体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文繁体</translation>
     </message>
     <message>
         <source>日本語</source>
-        <translation type="unfinished"></translation>
+        <translation>日本語</translation>
     </message>
     <message>
         <source>한국어</source>
-        <translation type="unfinished"></translation>
+        <translation>한국어</translation>
     </message>
     <message>
         <source>Русский</source>
-        <translation type="unfinished"></translation>
+        <translation>Русский</translation>
     </message>
     <message>
         <source>Tiếng Việt</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng Việt</translation>
     </message>
     <message>
         <source>Português</source>
-        <translation type="unfinished"></translation>
+        <translation>Português</translation>
     </message>
     <message>
         <source>ภาษาไทย</source>
-        <translation type="unfinished"></translation>
+        <translation>ภาษาไทย</translation>
     </message>
     <message>
         <source>Deutsch</source>
-        <translation type="unfinished"></translation>
+        <translation>Deutsch</translation>
     </message>
     <message>
         <source>Français</source>
-        <translation type="unfinished"></translation>
+        <translation>Français</translation>
     </message>
     <message>
         <source>Svenska</source>
-        <translation type="unfinished"></translation>
+        <translation>Svenska</translation>
     </message>
     <message>
         <source>Italiano</source>
-        <translation type="unfinished"></translation>
+        <translation>Italiano</translation>
     </message>
     <message>
         <source>Türkçe</source>
-        <translation type="unfinished"></translation>
+        <translation>Türkçe</translation>
     </message>
 </context>
 <context>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>押下(mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>リリース(mm)</translation>
     </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>新規マクロ</translation>
     </message>
 </context>
 <context>
     <name>ModuleRtSet</name>
     <message>
         <source>拖动指针或点按 − / + 调整，所有按键立即生效。</source>
-        <translation type="unfinished"></translation>
+        <translation>ポインターをドラッグするか − / + を押すと、すべてのキーにすぐ反映されます。</translation>
     </message>
 </context>
 <context>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation type="unfinished"></translation>
+        <translation>動画</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 7090 操作ガイド：マクロ設定</translation>
     </message>
     <message>
         <source>Orbe 2025-10-20</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 2025-10-20</translation>
     </message>
 </context>
 </TS>
