@@ -5,473 +5,473 @@
     <name>DialogColorPicker</name>
     <message>
         <source>完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Concluído</translation>
     </message>
     <message>
         <source>按住并拖到屏幕上任意位置取色</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantenha premido e arraste para qualquer ponto do ecrã para recolher a cor</translation>
     </message>
     <message>
         <source>此桌面不允许程序读取屏幕，屏幕取色不可用</source>
-        <translation type="unfinished"></translation>
+        <translation>Este ambiente de trabalho não deixa os programas ler o ecrã: recolher cor do ecrã não está disponível</translation>
     </message>
 </context>
 <context>
     <name>DialogDeviceConsole</name>
     <message>
         <source>Orbe Studio 设备调试</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe Studio - depuração do dispositivo</translation>
     </message>
 </context>
 <context>
     <name>DialogFNPicker</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Botão esquerdo</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Botão direito</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Botão do meio</translation>
     </message>
     <message>
         <source>前移</source>
-        <translation type="unfinished"></translation>
+        <translation>Avançar</translation>
     </message>
     <message>
         <source>后移</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroceder</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Roda para a esquerda</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Roda para a direita</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Roda para cima</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Roda para baixo</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page Up</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page Down</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas básicas</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas extra</translation>
     </message>
     <message>
         <source>组合键</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinação de teclas</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macros</translation>
     </message>
     <message>
         <source>系统功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Funções do sistema</translation>
     </message>
     <message>
         <source>鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Funções do rato</translation>
     </message>
     <message>
         <source>设置功能为:</source>
-        <translation type="unfinished"></translation>
+        <translation>Atribuir:</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>宏%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro %1</translation>
     </message>
     <message>
         <source>播放方式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprodução:</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetições</translation>
     </message>
     <message>
         <source>自动</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Enquanto premida</translation>
     </message>
     <message>
         <source>未录制的宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro não gravada</translation>
     </message>
 </context>
 <context>
     <name>DialogKeyPickerBase</name>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas básicas</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas extra</translation>
     </message>
     <message>
         <source>组合键：</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinação:</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar</translation>
     </message>
 </context>
 <context>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca</translation>
     </message>
     <message>
         <source>设备名称：Orbe 7090</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo: Orbe 7090</translation>
     </message>
     <message>
         <source>键盘固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware do teclado: V1.0</translation>
     </message>
     <message>
         <source>无线连接器固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware do recetor: V1.0</translation>
     </message>
     <message>
         <source>当前版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Versão atual: V1.0</translation>
     </message>
     <message>
         <source>检查键盘固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar atualizações do teclado</translation>
     </message>
     <message>
         <source>检查无线连接器固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar atualizações do recetor</translation>
     </message>
     <message>
         <source>操作教学</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutoriais</translation>
     </message>
     <message>
         <source>关于Orbe</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca da Orbe</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceHolder</name>
     <message>
         <source>首页</source>
-        <translation type="unfinished"></translation>
+        <translation>Início</translation>
     </message>
     <message>
         <source>键盘设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Switches magnéticos</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macros</translation>
     </message>
     <message>
         <source>灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Iluminação</translation>
     </message>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca</translation>
     </message>
     <message>
         <source>用户</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilizador</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltar</translation>
     </message>
     <message>
         <source>板载 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Perfil %1</translation>
     </message>
     <message>
         <source>对码</source>
-        <translation type="unfinished"></translation>
+        <translation>Emparelhar</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation type="unfinished"></translation>
+        <translation>Repor predefinições</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrar curso</translation>
     </message>
     <message>
         <source>灯光设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Iluminação</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateria</translation>
     </message>
 </context>
 <context>
     <name>FrameKeySetting</name>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas avançadas</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Outras definições</translation>
     </message>
     <message>
         <source>Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Camada Fn</translation>
     </message>
     <message>
         <source>选择按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha uma tecla</translation>
     </message>
     <message>
         <source>点击上方键盘中要修改的按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique no teclado acima na tecla que quer alterar.</translation>
     </message>
     <message>
         <source>选择功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha a função</translation>
     </message>
     <message>
         <source>组合键、宏、系统功能或鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Uma combinação de teclas, uma macro, uma função do sistema ou do rato.</translation>
     </message>
     <message>
         <source>清除或禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar ou desativar</translation>
     </message>
     <message>
         <source>右键点击按键可清除设置或禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique com o botão direito numa tecla para limpar a definição ou desativá-la.</translation>
     </message>
     <message>
         <source>自定义/Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado / Camada Fn</translation>
     </message>
     <message>
         <source>自定义按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas personalizadas</translation>
     </message>
     <message>
         <source>Fn层按键设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas da camada Fn</translation>
     </message>
     <message>
         <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
-        <translation type="unfinished"></translation>
+        <translation>*Clique primeiro numa tecla acima; na janela que abre, escolha para ela uma combinação de teclas, uma macro, uma função do sistema ou do rato.</translation>
     </message>
     <message>
         <source>动态键程</source>
-        <translation type="unfinished"></translation>
+        <translation>Curso dinâmico</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Premir/Tocar</translation>
     </message>
     <message>
         <source>切换开关</source>
-        <translation type="unfinished"></translation>
+        <translation>Alternar</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>系统按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla de sistema</translation>
     </message>
 </context>
 <context>
     <name>FrameLight</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>确认要删除此作品吗？</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar esta criação?</translation>
     </message>
     <message>
         <source>我的作品%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Criação %1</translation>
     </message>
     <message>
         <source>预览图,作品名称,管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Pré-visualização,Nome,Gerir</translation>
     </message>
     <message>
         <source>我的作品</source>
-        <translation type="unfinished"></translation>
+        <translation>As minhas criações</translation>
     </message>
     <message>
         <source>图%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Camada %1</translation>
     </message>
     <message>
         <source>点击按键或在键盘空白处拖出框选来上色；选择写入层即把图写入键盘，选择读取层即从键盘读回。</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique numa tecla, ou arraste uma caixa a partir de um espaço livre do teclado, para pintar. Escolher uma camada para escrever envia a pintura para o teclado; escolher uma camada para ler traz uma de volta.</translation>
     </message>
     <message>
         <source>颜色:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor:</translation>
     </message>
     <message>
         <source>取色器：</source>
-        <translation type="unfinished"></translation>
+        <translation>Conta-gotas:</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>Conta-gotas</translation>
     </message>
     <message>
         <source>随机颜色：</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor aleatória:</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar</translation>
     </message>
     <message>
         <source>写入层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>Escrever na camada:</translation>
     </message>
     <message>
         <source>读取层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>Ler da camada:</translation>
     </message>
     <message>
         <source>作品名称:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualizar</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
 </context>
 <context>
     <name>FrameMacro</name>
     <message>
         <source>延迟</source>
-        <translation type="unfinished"></translation>
+        <translation>Atraso</translation>
     </message>
     <message>
         <source>占用</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocupado</translation>
     </message>
     <message>
         <source>字节</source>
-        <translation type="unfinished"></translation>
+        <translation>bytes</translation>
     </message>
     <message>
         <source>停止录制</source>
-        <translation type="unfinished"></translation>
+        <translation>Parar gravação</translation>
     </message>
     <message>
         <source>开始录制</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar gravação</translation>
     </message>
     <message>
         <source>宏列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Macros</translation>
     </message>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova macro</translation>
     </message>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserir</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation type="unfinished"></translation>
+        <translation>Atraso fixo (ms):</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>松开</source>
-        <translation type="unfinished"></translation>
+        <translation>Soltar</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Premir</translation>
     </message>
     <message>
         <source>录制时，在本页按下按键或点击鼠标即被记录</source>
-        <translation type="unfinished"></translation>
+        <translation>Durante a gravação, as teclas e cliques nesta página são registados</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键或点击鼠标，或用“插入”逐个添加事件</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique em “Iniciar gravação” e depois prima teclas ou clique aqui; ou adicione eventos um a um com “Inserir”</translation>
     </message>
 </context>
 <context>
@@ -578,37 +578,37 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapid Trigger (todas as teclas)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>Curso das teclas (todas as teclas)</translation>
     </message>
 </context>
 <context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições do sistema</translation>
     </message>
     <message>
         <source>开机时自动开启本程序</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar este programa ao iniciar sessão</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing1</name>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrar curso</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -638,34 +638,34 @@
     <name>MacroItem</name>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar o nome</translation>
     </message>
     <message>
         <source>删除宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar macro</translation>
     </message>
 </context>
 <context>
     <name>MacroSquare</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquerdo</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Direito</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Meio</translation>
     </message>
     <message>
         <source>在此处插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserir aqui</translation>
     </message>
     <message>
         <source>删除此事件</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar este evento</translation>
     </message>
 </context>
 <context>
@@ -803,1087 +803,1087 @@
     <name>MainWindow</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Os meus dispositivos</translation>
     </message>
     <message>
         <source>显示窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar janela</translation>
     </message>
     <message>
         <source>隐藏窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar janela</translation>
     </message>
     <message>
         <source>退出程序</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair</translation>
     </message>
     <message>
         <source>正在搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar dispositivos</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>确定要退出 ORBE 驱动程序？</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair do controlador ORBE?</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar de novo</translation>
     </message>
     <message>
         <source>点击设备进入设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique num dispositivo para o configurar</translation>
     </message>
 </context>
 <context>
     <name>ModuleAddMacroSquare</name>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserir</translation>
     </message>
     <message>
         <source>请选择添加宏事件类型</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha o tipo de evento de macro a adicionar</translation>
     </message>
     <message>
         <source>键盘按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla do teclado</translation>
     </message>
     <message>
         <source>鼠标按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Botão do rato</translation>
     </message>
     <message>
         <source>鼠标位置</source>
-        <translation type="unfinished"></translation>
+        <translation>Posição do rato</translation>
     </message>
     <message>
         <source>请按下按键......</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima uma tecla......</translation>
     </message>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquerdo</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Meio</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Direito</translation>
     </message>
     <message>
         <source>X(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>X(0 ~ 127):</translation>
     </message>
     <message>
         <source>Y(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>Y(0 ~ 127):</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>ModuleAdvancedKeys</name>
     <message>
         <source>动态键程(DKS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Curso dinâmico (DKS)</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation type="unfinished"></translation>
+        <translation>Premir/Tocar (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alternar (TGL)</translation>
     </message>
     <message>
         <source>SnapKey</source>
-        <translation type="unfinished"></translation>
+        <translation>SnapKey</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>当前按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla</translation>
     </message>
     <message>
         <source>按键功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Função</translation>
     </message>
     <message>
         <source>一个按键在行程的四个位置各触发一个功能。点击上方键盘选择按键，点击行程数值调整触发点。</source>
-        <translation type="unfinished"></translation>
+        <translation>Uma tecla, até quatro funções em quatro pontos do curso. Escolha a tecla no teclado acima; clique num valor de curso para mover o seu ponto.</translation>
     </message>
     <message>
         <source>单击时</source>
-        <translation type="unfinished"></translation>
+        <translation>Ao tocar</translation>
     </message>
     <message>
         <source>按住时</source>
-        <translation type="unfinished"></translation>
+        <translation>Ao manter</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha uma tecla acima e dê-lhe duas funções, uma ao tocar e outra ao manter premida (também combinações de teclas).</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation type="unfinished"></translation>
+        <translation>Quanto tempo a tecla tem de ficar premida para contar como «manter»</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha uma tecla acima e dê-lhe uma função; um toque liga-a e o seguinte desliga-a, como repetição ou como tecla premida.</translation>
     </message>
     <message>
         <source>连点</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir</translation>
     </message>
     <message>
         <source>长按</source>
-        <translation type="unfinished"></translation>
+        <translation>Manter</translation>
     </message>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligue duas teclas, cada uma escolhida no teclado acima: enquanto ambas estão premidas, ganha a última premida.</translation>
     </message>
     <message>
         <source>选择A键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla A</translation>
     </message>
     <message>
         <source>选择B键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla B</translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem função</translation>
     </message>
     <message>
         <source>单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Tocar</translation>
     </message>
     <message>
         <source>按住</source>
-        <translation type="unfinished"></translation>
+        <translation>Manter</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSAdjust</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Premir (mm)</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSItem</name>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem função</translation>
     </message>
 </context>
 <context>
     <name>ModuleDeviceOptions</name>
     <message>
         <source>键盘回报率</source>
-        <translation type="unfinished"></translation>
+        <translation>Taxa de polling</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G: luz desligada</translation>
     </message>
     <message>
         <source>蓝牙关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth: luz desligada</translation>
     </message>
     <message>
         <source>2.4G深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G: suspensão após</translation>
     </message>
     <message>
         <source>蓝牙深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth: suspensão após</translation>
     </message>
     <message>
         <source>按键防抖等级设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Nível de debounce</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfColor</name>
     <message>
         <source>炫彩</source>
-        <translation type="unfinished"></translation>
+        <translation>Arco-íris</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Desligado</translation>
     </message>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixo</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>Respiração</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrente</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>Néon</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>Onda</translation>
     </message>
     <message>
         <source>系统默认</source>
-        <translation type="unfinished"></translation>
+        <translation>Predefinições</translation>
     </message>
     <message>
         <source>灯带灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Luz lateral</translation>
     </message>
     <message>
         <source>单键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla única</translation>
     </message>
     <message>
         <source>灯效：</source>
-        <translation type="unfinished"></translation>
+        <translation>Efeito:</translation>
     </message>
     <message>
         <source>速度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade:</translation>
     </message>
     <message>
         <source>亮度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Brilho:</translation>
     </message>
     <message>
         <source>色彩：</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor:</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>Conta-gotas</translation>
     </message>
     <message>
         <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique numa cor: ela roda para o centro e ilumina as teclas</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfLumi</name>
     <message>
         <source>灯光亮度</source>
-        <translation type="unfinished"></translation>
+        <translation>Brilho</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfMode</name>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixo</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>Respiração</translation>
     </message>
     <message>
         <source>流星</source>
-        <translation type="unfinished"></translation>
+        <translation>Meteoro</translation>
     </message>
     <message>
         <source>涟漪</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondulação</translation>
     </message>
     <message>
         <source>极光</source>
-        <translation type="unfinished"></translation>
+        <translation>Aurora</translation>
     </message>
     <message>
         <source>雨滴</source>
-        <translation type="unfinished"></translation>
+        <translation>Gotas de chuva</translation>
     </message>
     <message>
         <source>聚合</source>
-        <translation type="unfinished"></translation>
+        <translation>Convergir</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrente</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>Néon</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>Onda</translation>
     </message>
     <message>
         <source>繁星点点</source>
-        <translation type="unfinished"></translation>
+        <translation>Estrelas</translation>
     </message>
     <message>
         <source>如影随形</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombra</translation>
     </message>
     <message>
         <source>正弦波</source>
-        <translation type="unfinished"></translation>
+        <translation>Onda sinusoidal</translation>
     </message>
     <message>
         <source>彩泉涌动</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonte</translation>
     </message>
     <message>
         <source>百花争艳</source>
-        <translation type="unfinished"></translation>
+        <translation>Florescer</translation>
     </message>
     <message>
         <source>一石二鸟</source>
-        <translation type="unfinished"></translation>
+        <translation>Dois pássaros</translation>
     </message>
     <message>
         <source>峰回路转</source>
-        <translation type="unfinished"></translation>
+        <translation>Caminho sinuoso</translation>
     </message>
     <message>
         <source>斜风细雨</source>
-        <translation type="unfinished"></translation>
+        <translation>Chuvisco</translation>
     </message>
     <message>
         <source>踏雪无痕</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegadas na neve</translation>
     </message>
     <message>
         <source>层出不穷</source>
-        <translation type="unfinished"></translation>
+        <translation>Camadas sem fim</translation>
     </message>
     <message>
         <source>光影</source>
-        <translation type="unfinished"></translation>
+        <translation>Luz e sombra</translation>
     </message>
     <message>
         <source>音乐律动</source>
-        <translation type="unfinished"></translation>
+        <translation>Música</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagem própria</translation>
     </message>
     <message>
         <source>左</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquerda</translation>
     </message>
     <message>
         <source>右</source>
-        <translation type="unfinished"></translation>
+        <translation>Direita</translation>
     </message>
     <message>
         <source>上</source>
-        <translation type="unfinished"></translation>
+        <translation>Cima</translation>
     </message>
     <message>
         <source>下</source>
-        <translation type="unfinished"></translation>
+        <translation>Baixo</translation>
     </message>
     <message>
         <source>Z形</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziguezague</translation>
     </message>
     <message>
         <source>回形</source>
-        <translation type="unfinished"></translation>
+        <translation>Espiral</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>Para dentro</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>Para fora</translation>
     </message>
     <message>
         <source>向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Para a direita</translation>
     </message>
     <message>
         <source>向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Para a esquerda</translation>
     </message>
     <message>
         <source>图案1</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagem 1</translation>
     </message>
     <message>
         <source>图案2</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagem 2</translation>
     </message>
     <message>
         <source>图案3</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagem 3</translation>
     </message>
     <message>
         <source>图案4</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagem 4</translation>
     </message>
     <message>
         <source>图案5</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagem 5</translation>
     </message>
     <message>
         <source>顺时针</source>
-        <translation type="unfinished"></translation>
+        <translation>Sentido horário</translation>
     </message>
     <message>
         <source>逆时针</source>
-        <translation type="unfinished"></translation>
+        <translation>Sentido anti-horário</translation>
     </message>
     <message>
         <source>无</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum</translation>
     </message>
     <message>
         <source>灯效模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Efeito de luz</translation>
     </message>
     <message>
         <source>灯光播放模式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprodução:</translation>
     </message>
     <message>
         <source>打开时关闭键盘灯光</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligado: luzes do teclado apagadas</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfSpeed</name>
     <message>
         <source>灯光速度</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade</translation>
     </message>
 </context>
 <context>
     <name>ModuleGenKeymapping</name>
     <message>
         <source>上一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Faixa anterior</translation>
     </message>
     <message>
         <source>下一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Faixa seguinte</translation>
     </message>
     <message>
         <source>播放/暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduzir/Pausa</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Parar</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem som</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume +</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume -</translation>
     </message>
     <message>
         <source>播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Leitor multimédia</translation>
     </message>
     <message>
         <source>计算器</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculadora</translation>
     </message>
     <message>
         <source>邮件</source>
-        <translation type="unfinished"></translation>
+        <translation>Correio</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation type="unfinished"></translation>
+        <translation>O meu computador</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesquisar</translation>
     </message>
     <message>
         <source>主页</source>
-        <translation type="unfinished"></translation>
+        <translation>Página inicial</translation>
     </message>
     <message>
         <source>后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroceder</translation>
     </message>
     <message>
         <source>前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Avançar</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualizar</translation>
     </message>
     <message>
         <source>收藏</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoritos</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Brilho do ecrã +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Brilho do ecrã -</translation>
     </message>
     <message>
         <source>放大</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliar</translation>
     </message>
     <message>
         <source>缩小</source>
-        <translation type="unfinished"></translation>
+        <translation>Reduzir</translation>
     </message>
     <message>
         <source>呼出Siri</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistente de voz</translation>
     </message>
     <message>
         <source>切换输入法</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar método de entrada</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltar</translation>
     </message>
     <message>
         <source>Fn键锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueio Fn</translation>
     </message>
     <message>
         <source>锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear ecrã</translation>
     </message>
     <message>
         <source>R-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla Fn direita</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Loop</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Shift</translation>
     </message>
     <message>
         <source>电源</source>
-        <translation type="unfinished"></translation>
+        <translation>Energia</translation>
     </message>
     <message>
         <source>睡眠</source>
-        <translation type="unfinished"></translation>
+        <translation>Suspender</translation>
     </message>
     <message>
         <source>唤醒</source>
-        <translation type="unfinished"></translation>
+        <translation>Despertar</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Value</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Loop</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla Fn esquerda</translation>
     </message>
     <message>
         <source>恢复出厂设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Repor valores de fábrica</translation>
     </message>
     <message>
         <source>锁Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear tecla Win</translation>
     </message>
     <message>
         <source>切换Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo Windows</translation>
     </message>
     <message>
         <source>切换Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo Mac</translation>
     </message>
     <message>
         <source>系统切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar sistema</translation>
     </message>
     <message>
         <source>Check Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Check Battery</translation>
     </message>
     <message>
         <source>WASD切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Trocar WASD e setas</translation>
     </message>
     <message>
         <source>Fn层切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar camada Fn</translation>
     </message>
     <message>
         <source>设备节能</source>
-        <translation type="unfinished"></translation>
+        <translation>Poupança de energia</translation>
     </message>
     <message>
         <source>APP CTRL切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Trocar APP/CTRL</translation>
     </message>
     <message>
         <source>背光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Luz ligar/desligar</translation>
     </message>
     <message>
         <source>背光灯效循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclo de efeitos de luz</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation type="unfinished"></translation>
+        <translation>Efeito de luz +</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation type="unfinished"></translation>
+        <translation>Efeito de luz -</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclo de brilho da luz</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Brilho da luz +</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Brilho da luz -</translation>
     </message>
     <message>
         <source>背光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclo de velocidade da luz</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade da luz -</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade da luz +</translation>
     </message>
     <message>
         <source>背光方向循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclo de direção da luz</translation>
     </message>
     <message>
         <source>背光向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Luz para a esquerda</translation>
     </message>
     <message>
         <source>背光向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Luz para a direita</translation>
     </message>
     <message>
         <source>背光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclo de cor da luz</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor da luz +</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor da luz -</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 0</translation>
     </message>
     <message>
         <source>Use Pic 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 1</translation>
     </message>
     <message>
         <source>Use Pic 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 2</translation>
     </message>
     <message>
         <source>Use Pic 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 3</translation>
     </message>
     <message>
         <source>Use Pic 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 4</translation>
     </message>
     <message>
         <source>Use Pic</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic</translation>
     </message>
     <message>
         <source>侧光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Luz lateral ligar/desligar</translation>
     </message>
     <message>
         <source>侧光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclo de brilho da luz lateral</translation>
     </message>
     <message>
         <source>侧光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclo de velocidade da luz lateral</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade da luz lateral +</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade da luz lateral -</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclo de cor da luz lateral</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor da luz lateral +</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor da luz lateral -</translation>
     </message>
     <message>
         <source>2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G</translation>
     </message>
     <message>
         <source>蓝牙1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 1</translation>
     </message>
     <message>
         <source>蓝牙2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 2</translation>
     </message>
     <message>
         <source>蓝牙3</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 3</translation>
     </message>
     <message>
         <source>有线</source>
-        <translation type="unfinished"></translation>
+        <translation>Cabo</translation>
     </message>
     <message>
         <source>有线-蓝牙-2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>Cabo-Bluetooth-2.4G</translation>
     </message>
     <message>
         <source>2.4G配对</source>
-        <translation type="unfinished"></translation>
+        <translation>Emparelhar 2.4G</translation>
     </message>
     <message>
         <source>蓝牙配对</source>
-        <translation type="unfinished"></translation>
+        <translation>Emparelhar Bluetooth</translation>
     </message>
     <message>
         <source>Insert键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla Insert</translation>
     </message>
     <message>
         <source>Print Screen键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla Print Screen</translation>
     </message>
     <message>
         <source>左键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique esquerdo</translation>
     </message>
     <message>
         <source>右键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique direito</translation>
     </message>
     <message>
         <source>中键按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique do meio</translation>
     </message>
     <message>
         <source>光标前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Botão avançar</translation>
     </message>
     <message>
         <source>光标后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Botão retroceder</translation>
     </message>
     <message>
         <source>滚轮-向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Roda para a esquerda</translation>
     </message>
     <message>
         <source>滚轮-向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Roda para a direita</translation>
     </message>
     <message>
         <source>滚轮-向上</source>
-        <translation type="unfinished"></translation>
+        <translation>Roda para cima</translation>
     </message>
     <message>
         <source>滚轮-向下</source>
-        <translation type="unfinished"></translation>
+        <translation>Roda para baixo</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page Up</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page Down</translation>
     </message>
     <message>
         <source>XUP</source>
-        <translation type="unfinished"></translation>
+        <translation>XUP</translation>
     </message>
     <message>
         <source>XDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>XDOWN</translation>
     </message>
     <message>
         <source>YUP</source>
-        <translation type="unfinished"></translation>
+        <translation>YUP</translation>
     </message>
     <message>
         <source>YDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>YDOWN</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Função</translation>
     </message>
     <message>
         <source>鼠标</source>
-        <translation type="unfinished"></translation>
+        <translation>Rato</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinação</translation>
     </message>
 </context>
 <context>
     <name>ModuleKeyboard</name>
     <message>
         <source>已选中按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla selecionada</translation>
     </message>
     <message>
         <source>已修改按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla alterada</translation>
     </message>
     <message>
         <source>已禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla desativada</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar definição</translation>
     </message>
     <message>
         <source>禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Desativar tecla</translation>
     </message>
     <message>
         <source>取消禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>Ativar tecla</translation>
     </message>
 </context>
 <context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文简体</translation>
     </message>
     <message>
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>English</translation>
     </message>
     <message>
         <source>中文繁体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文繁体</translation>
     </message>
     <message>
         <source>日本語</source>
-        <translation type="unfinished"></translation>
+        <translation>日本語</translation>
     </message>
     <message>
         <source>한국어</source>
-        <translation type="unfinished"></translation>
+        <translation>한국어</translation>
     </message>
     <message>
         <source>Русский</source>
-        <translation type="unfinished"></translation>
+        <translation>Русский</translation>
     </message>
     <message>
         <source>Tiếng Việt</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng Việt</translation>
     </message>
     <message>
         <source>Português</source>
-        <translation type="unfinished"></translation>
+        <translation>Português</translation>
     </message>
     <message>
         <source>ภาษาไทย</source>
-        <translation type="unfinished"></translation>
+        <translation>ภาษาไทย</translation>
     </message>
     <message>
         <source>Deutsch</source>
-        <translation type="unfinished"></translation>
+        <translation>Deutsch</translation>
     </message>
     <message>
         <source>Français</source>
-        <translation type="unfinished"></translation>
+        <translation>Français</translation>
     </message>
     <message>
         <source>Svenska</source>
-        <translation type="unfinished"></translation>
+        <translation>Svenska</translation>
     </message>
     <message>
         <source>Italiano</source>
-        <translation type="unfinished"></translation>
+        <translation>Italiano</translation>
     </message>
     <message>
         <source>Türkçe</source>
-        <translation type="unfinished"></translation>
+        <translation>Türkçe</translation>
     </message>
 </context>
 <context>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Premir (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soltar (mm)</translation>
     </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova macro</translation>
     </message>
 </context>
 <context>
     <name>ModuleRtSet</name>
     <message>
         <source>拖动指针或点按 − / + 调整，所有按键立即生效。</source>
-        <translation type="unfinished"></translation>
+        <translation>Arraste o ponteiro ou prima − / +: todas as teclas recebem o valor de imediato.</translation>
     </message>
 </context>
 <context>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 7090 guia: macros</translation>
     </message>
     <message>
         <source>Orbe 2025-10-20</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 2025-10-20</translation>
     </message>
 </context>
 </TS>
