@@ -5,473 +5,473 @@
     <name>DialogColorPicker</name>
     <message>
         <source>完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>按住并拖到屏幕上任意位置取色</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenez et faites glisser n’importe où sur l’écran pour prélever sa couleur</translation>
     </message>
     <message>
         <source>此桌面不允许程序读取屏幕，屏幕取色不可用</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce bureau n’autorise pas les programmes à lire l’écran : le prélèvement de couleur à l’écran est indisponible</translation>
     </message>
 </context>
 <context>
     <name>DialogDeviceConsole</name>
     <message>
         <source>Orbe Studio 设备调试</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe Studio – débogage de l’appareil</translation>
     </message>
 </context>
 <context>
     <name>DialogFNPicker</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton gauche</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton droit</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton central</translation>
     </message>
     <message>
         <source>前移</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>后移</source>
-        <translation type="unfinished"></translation>
+        <translation>Précédent</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette à gauche</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette à droite</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette vers le haut</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette vers le bas</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page précédente</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page suivante</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches de base</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches étendues</translation>
     </message>
     <message>
         <source>组合键</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinaison de touches</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macros</translation>
     </message>
     <message>
         <source>系统功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonctions système</translation>
     </message>
     <message>
         <source>鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonctions souris</translation>
     </message>
     <message>
         <source>设置功能为:</source>
-        <translation type="unfinished"></translation>
+        <translation>Attribuer :</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>宏%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro %1</translation>
     </message>
     <message>
         <source>播放方式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture :</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétitions</translation>
     </message>
     <message>
         <source>自动</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Tant que maintenue</translation>
     </message>
     <message>
         <source>未录制的宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro non enregistrée</translation>
     </message>
 </context>
 <context>
     <name>DialogKeyPickerBase</name>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches de base</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches étendues</translation>
     </message>
     <message>
         <source>组合键：</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinaison :</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider</translation>
     </message>
 </context>
 <context>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>设备名称：Orbe 7090</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil : Orbe 7090</translation>
     </message>
     <message>
         <source>键盘固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware du clavier : V1.0</translation>
     </message>
     <message>
         <source>无线连接器固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware du récepteur : V1.0</translation>
     </message>
     <message>
         <source>当前版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Version actuelle : V1.0</translation>
     </message>
     <message>
         <source>检查键盘固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher une mise à jour du clavier</translation>
     </message>
     <message>
         <source>检查无线连接器固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher une mise à jour du récepteur</translation>
     </message>
     <message>
         <source>操作教学</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutoriels</translation>
     </message>
     <message>
         <source>关于Orbe</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos d’Orbe</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceHolder</name>
     <message>
         <source>首页</source>
-        <translation type="unfinished"></translation>
+        <translation>Accueil</translation>
     </message>
     <message>
         <source>键盘设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Switchs magnétiques</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macros</translation>
     </message>
     <message>
         <source>灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Éclairage</translation>
     </message>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>用户</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisateur</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>板载 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil %1</translation>
     </message>
     <message>
         <source>对码</source>
-        <translation type="unfinished"></translation>
+        <translation>Appairage</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrage de course</translation>
     </message>
     <message>
         <source>灯光设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Éclairage</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
 </context>
 <context>
     <name>FrameKeySetting</name>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Personnalisé</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches avancées</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres réglages</translation>
     </message>
     <message>
         <source>Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Couche Fn</translation>
     </message>
     <message>
         <source>选择按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une touche</translation>
     </message>
     <message>
         <source>点击上方键盘中要修改的按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur le clavier ci-dessus la touche à modifier.</translation>
     </message>
     <message>
         <source>选择功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la fonction</translation>
     </message>
     <message>
         <source>组合键、宏、系统功能或鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Une combinaison de touches, une macro, une fonction système ou une fonction souris.</translation>
     </message>
     <message>
         <source>清除或禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer ou désactiver</translation>
     </message>
     <message>
         <source>右键点击按键可清除设置或禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic droit sur une touche efface son réglage ou la désactive.</translation>
     </message>
     <message>
         <source>自定义/Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Personnalisé / Couche Fn</translation>
     </message>
     <message>
         <source>自定义按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches personnalisées</translation>
     </message>
     <message>
         <source>Fn层按键设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches de la couche Fn</translation>
     </message>
     <message>
         <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
-        <translation type="unfinished"></translation>
+        <translation>*Cliquez d’abord sur une touche ci-dessus ; dans la fenêtre qui s’ouvre, choisissez pour elle une combinaison de touches, une macro, une fonction système ou une fonction souris.</translation>
     </message>
     <message>
         <source>动态键程</source>
-        <translation type="unfinished"></translation>
+        <translation>Frappe dynamique</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintien/Appui</translation>
     </message>
     <message>
         <source>切换开关</source>
-        <translation type="unfinished"></translation>
+        <translation>Bascule</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>系统按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche système</translation>
     </message>
 </context>
 <context>
     <name>FrameLight</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>确认要删除此作品吗？</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer cette création ?</translation>
     </message>
     <message>
         <source>我的作品%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ma création %1</translation>
     </message>
     <message>
         <source>预览图,作品名称,管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu,Nom,Gérer</translation>
     </message>
     <message>
         <source>我的作品</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes créations</translation>
     </message>
     <message>
         <source>图%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Couche %1</translation>
     </message>
     <message>
         <source>点击按键或在键盘空白处拖出框选来上色；选择写入层即把图写入键盘，选择读取层即从键盘读回。</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur une touche, ou tracez un cadre depuis un endroit libre du clavier, pour peindre. Choisir une couche d’écriture envoie le dessin au clavier ; choisir une couche de lecture le récupère.</translation>
     </message>
     <message>
         <source>颜色:</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur :</translation>
     </message>
     <message>
         <source>取色器：</source>
-        <translation type="unfinished"></translation>
+        <translation>Pipette :</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>Pipette</translation>
     </message>
     <message>
         <source>随机颜色：</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur aléatoire :</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>写入层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire dans la couche :</translation>
     </message>
     <message>
         <source>读取层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire la couche :</translation>
     </message>
     <message>
         <source>作品名称:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom :</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à jour</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
 </context>
 <context>
     <name>FrameMacro</name>
     <message>
         <source>延迟</source>
-        <translation type="unfinished"></translation>
+        <translation>Délai</translation>
     </message>
     <message>
         <source>占用</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé</translation>
     </message>
     <message>
         <source>字节</source>
-        <translation type="unfinished"></translation>
+        <translation>octets</translation>
     </message>
     <message>
         <source>停止录制</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter l’enregistrement</translation>
     </message>
     <message>
         <source>开始录制</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer l’enregistrement</translation>
     </message>
     <message>
         <source>宏列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Macros</translation>
     </message>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle macro</translation>
     </message>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout effacer</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation type="unfinished"></translation>
+        <translation>Délai fixe (ms) :</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>松开</source>
-        <translation type="unfinished"></translation>
+        <translation>Relâcher</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyer</translation>
     </message>
     <message>
         <source>录制时，在本页按下按键或点击鼠标即被记录</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendant l’enregistrement, les touches et clics sur cette page sont enregistrés</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键或点击鼠标，或用“插入”逐个添加事件</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur « Démarrer l’enregistrement », puis appuyez sur des touches ou cliquez ici ; ou ajoutez des événements un par un avec « Insérer »</translation>
     </message>
 </context>
 <context>
@@ -578,37 +578,37 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapid Trigger (toutes les touches)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>Course des touches (toutes)</translation>
     </message>
 </context>
 <context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres système</translation>
     </message>
     <message>
         <source>开机时自动开启本程序</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer ce programme à l’ouverture de session</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing1</name>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrage de course</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -638,34 +638,34 @@
     <name>MacroItem</name>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>删除宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la macro</translation>
     </message>
 </context>
 <context>
     <name>MacroSquare</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Droit</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Central</translation>
     </message>
     <message>
         <source>在此处插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer ici</translation>
     </message>
     <message>
         <source>删除此事件</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer cet événement</translation>
     </message>
 </context>
 <context>
@@ -803,1087 +803,1087 @@
     <name>MainWindow</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes appareils</translation>
     </message>
     <message>
         <source>显示窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la fenêtre</translation>
     </message>
     <message>
         <source>隐藏窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer la fenêtre</translation>
     </message>
     <message>
         <source>退出程序</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>正在搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche d’appareils</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>确定要退出 ORBE 驱动程序？</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter le pilote ORBE ?</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher à nouveau</translation>
     </message>
     <message>
         <source>点击设备进入设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur un appareil pour le configurer</translation>
     </message>
 </context>
 <context>
     <name>ModuleAddMacroSquare</name>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer</translation>
     </message>
     <message>
         <source>请选择添加宏事件类型</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez le type d’événement de macro à ajouter</translation>
     </message>
     <message>
         <source>键盘按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche du clavier</translation>
     </message>
     <message>
         <source>鼠标按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton de souris</translation>
     </message>
     <message>
         <source>鼠标位置</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de la souris</translation>
     </message>
     <message>
         <source>请按下按键......</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez sur une touche......</translation>
     </message>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Central</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Droit</translation>
     </message>
     <message>
         <source>X(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>X(0 ~ 127):</translation>
     </message>
     <message>
         <source>Y(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>Y(0 ~ 127):</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>ModuleAdvancedKeys</name>
     <message>
         <source>动态键程(DKS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frappe dynamique (DKS)</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintien/Appui (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bascule (TGL)</translation>
     </message>
     <message>
         <source>SnapKey</source>
-        <translation type="unfinished"></translation>
+        <translation>SnapKey</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>当前按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche</translation>
     </message>
     <message>
         <source>按键功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonction</translation>
     </message>
     <message>
         <source>一个按键在行程的四个位置各触发一个功能。点击上方键盘选择按键，点击行程数值调整触发点。</source>
-        <translation type="unfinished"></translation>
+        <translation>Une touche, jusqu’à quatre fonctions à quatre points de sa course. Choisissez la touche sur le clavier ci-dessus ; cliquez sur une valeur de course pour déplacer son point.</translation>
     </message>
     <message>
         <source>单击时</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’appui</translation>
     </message>
     <message>
         <source>按住时</source>
-        <translation type="unfinished"></translation>
+        <translation>Au maintien</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une touche ci-dessus et donnez-lui deux fonctions, une pour l’appui bref et une pour le maintien (combinaisons de touches acceptées).</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de maintien nécessaire pour compter comme un maintien</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une touche ci-dessus et donnez-lui une fonction ; un appui l’active, le suivant la désactive, en répétition ou en maintien.</translation>
     </message>
     <message>
         <source>连点</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétition</translation>
     </message>
     <message>
         <source>长按</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintien</translation>
     </message>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation type="unfinished"></translation>
+        <translation>Liez deux touches, chacune choisie sur le clavier ci-dessus : quand les deux sont enfoncées, la dernière pressée l’emporte.</translation>
     </message>
     <message>
         <source>选择A键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche A</translation>
     </message>
     <message>
         <source>选择B键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche B</translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune fonction</translation>
     </message>
     <message>
         <source>单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Appui</translation>
     </message>
     <message>
         <source>按住</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintien</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSAdjust</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Appui (mm)</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSItem</name>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune fonction</translation>
     </message>
 </context>
 <context>
     <name>ModuleDeviceOptions</name>
     <message>
         <source>键盘回报率</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux d’interrogation</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G : éclairage éteint</translation>
     </message>
     <message>
         <source>蓝牙关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth : éclairage éteint</translation>
     </message>
     <message>
         <source>2.4G深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G : veille profonde après</translation>
     </message>
     <message>
         <source>蓝牙深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth : veille profonde après</translation>
     </message>
     <message>
         <source>按键防抖等级设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d’anti-rebond</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfColor</name>
     <message>
         <source>炫彩</source>
-        <translation type="unfinished"></translation>
+        <translation>Arc-en-ciel</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Personnalisé</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Éteint</translation>
     </message>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixe</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>Respiration</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>Flux</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>Néon</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>Vague</translation>
     </message>
     <message>
         <source>系统默认</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages</translation>
     </message>
     <message>
         <source>灯带灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Éclairage latéral</translation>
     </message>
     <message>
         <source>单键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche unique</translation>
     </message>
     <message>
         <source>灯效：</source>
-        <translation type="unfinished"></translation>
+        <translation>Effet :</translation>
     </message>
     <message>
         <source>速度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse :</translation>
     </message>
     <message>
         <source>亮度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité :</translation>
     </message>
     <message>
         <source>色彩：</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur :</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>Pipette</translation>
     </message>
     <message>
         <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur une couleur : elle tourne au centre et éclaire les touches</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfLumi</name>
     <message>
         <source>灯光亮度</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfMode</name>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixe</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>Respiration</translation>
     </message>
     <message>
         <source>流星</source>
-        <translation type="unfinished"></translation>
+        <translation>Météore</translation>
     </message>
     <message>
         <source>涟漪</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondulation</translation>
     </message>
     <message>
         <source>极光</source>
-        <translation type="unfinished"></translation>
+        <translation>Aurore</translation>
     </message>
     <message>
         <source>雨滴</source>
-        <translation type="unfinished"></translation>
+        <translation>Gouttes de pluie</translation>
     </message>
     <message>
         <source>聚合</source>
-        <translation type="unfinished"></translation>
+        <translation>Convergence</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>Flux</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>Néon</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>Vague</translation>
     </message>
     <message>
         <source>繁星点点</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciel étoilé</translation>
     </message>
     <message>
         <source>如影随形</source>
-        <translation type="unfinished"></translation>
+        <translation>Ombre</translation>
     </message>
     <message>
         <source>正弦波</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinusoïde</translation>
     </message>
     <message>
         <source>彩泉涌动</source>
-        <translation type="unfinished"></translation>
+        <translation>Fontaine</translation>
     </message>
     <message>
         <source>百花争艳</source>
-        <translation type="unfinished"></translation>
+        <translation>Floraison</translation>
     </message>
     <message>
         <source>一石二鸟</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux oiseaux</translation>
     </message>
     <message>
         <source>峰回路转</source>
-        <translation type="unfinished"></translation>
+        <translation>Lacets</translation>
     </message>
     <message>
         <source>斜风细雨</source>
-        <translation type="unfinished"></translation>
+        <translation>Bruine</translation>
     </message>
     <message>
         <source>踏雪无痕</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas dans la neige</translation>
     </message>
     <message>
         <source>层出不穷</source>
-        <translation type="unfinished"></translation>
+        <translation>Couches sans fin</translation>
     </message>
     <message>
         <source>光影</source>
-        <translation type="unfinished"></translation>
+        <translation>Ombre et lumière</translation>
     </message>
     <message>
         <source>音乐律动</source>
-        <translation type="unfinished"></translation>
+        <translation>Musique</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Image personnalisée</translation>
     </message>
     <message>
         <source>左</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>右</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>上</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut</translation>
     </message>
     <message>
         <source>下</source>
-        <translation type="unfinished"></translation>
+        <translation>Bas</translation>
     </message>
     <message>
         <source>Z形</source>
-        <translation type="unfinished"></translation>
+        <translation>Zigzag</translation>
     </message>
     <message>
         <source>回形</source>
-        <translation type="unfinished"></translation>
+        <translation>Spirale</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers l’intérieur</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers l’extérieur</translation>
     </message>
     <message>
         <source>向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers la droite</translation>
     </message>
     <message>
         <source>向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers la gauche</translation>
     </message>
     <message>
         <source>图案1</source>
-        <translation type="unfinished"></translation>
+        <translation>Motif 1</translation>
     </message>
     <message>
         <source>图案2</source>
-        <translation type="unfinished"></translation>
+        <translation>Motif 2</translation>
     </message>
     <message>
         <source>图案3</source>
-        <translation type="unfinished"></translation>
+        <translation>Motif 3</translation>
     </message>
     <message>
         <source>图案4</source>
-        <translation type="unfinished"></translation>
+        <translation>Motif 4</translation>
     </message>
     <message>
         <source>图案5</source>
-        <translation type="unfinished"></translation>
+        <translation>Motif 5</translation>
     </message>
     <message>
         <source>顺时针</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens horaire</translation>
     </message>
     <message>
         <source>逆时针</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens antihoraire</translation>
     </message>
     <message>
         <source>无</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>灯效模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Effet lumineux</translation>
     </message>
     <message>
         <source>灯光播放模式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture :</translation>
     </message>
     <message>
         <source>打开时关闭键盘灯光</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé : éclairage du clavier éteint</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfSpeed</name>
     <message>
         <source>灯光速度</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
 </context>
 <context>
     <name>ModuleGenKeymapping</name>
     <message>
         <source>上一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Piste précédente</translation>
     </message>
     <message>
         <source>下一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Piste suivante</translation>
     </message>
     <message>
         <source>播放/暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture/Pause</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>Muet</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume +</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume -</translation>
     </message>
     <message>
         <source>播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecteur multimédia</translation>
     </message>
     <message>
         <source>计算器</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculatrice</translation>
     </message>
     <message>
         <source>邮件</source>
-        <translation type="unfinished"></translation>
+        <translation>Courrier</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation type="unfinished"></translation>
+        <translation>Poste de travail</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>主页</source>
-        <translation type="unfinished"></translation>
+        <translation>Page d’accueil</translation>
     </message>
     <message>
         <source>后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Précédent</translation>
     </message>
     <message>
         <source>前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser</translation>
     </message>
     <message>
         <source>收藏</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoris</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité écran +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité écran -</translation>
     </message>
     <message>
         <source>放大</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom avant</translation>
     </message>
     <message>
         <source>缩小</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom arrière</translation>
     </message>
     <message>
         <source>呼出Siri</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistant vocal</translation>
     </message>
     <message>
         <source>切换输入法</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer de méthode de saisie</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>Fn键锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillage Fn</translation>
     </message>
     <message>
         <source>锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouiller l’écran</translation>
     </message>
     <message>
         <source>R-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche Fn droite</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Loop</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Shift</translation>
     </message>
     <message>
         <source>电源</source>
-        <translation type="unfinished"></translation>
+        <translation>Alimentation</translation>
     </message>
     <message>
         <source>睡眠</source>
-        <translation type="unfinished"></translation>
+        <translation>Veille</translation>
     </message>
     <message>
         <source>唤醒</source>
-        <translation type="unfinished"></translation>
+        <translation>Réveil</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Value</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Loop</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche Fn gauche</translation>
     </message>
     <message>
         <source>恢复出厂设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages d’usine</translation>
     </message>
     <message>
         <source>锁Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouiller la touche Win</translation>
     </message>
     <message>
         <source>切换Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode Windows</translation>
     </message>
     <message>
         <source>切换Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode Mac</translation>
     </message>
     <message>
         <source>系统切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer de système</translation>
     </message>
     <message>
         <source>Check Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Check Battery</translation>
     </message>
     <message>
         <source>WASD切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverser WASD et flèches</translation>
     </message>
     <message>
         <source>Fn层切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer de couche Fn</translation>
     </message>
     <message>
         <source>设备节能</source>
-        <translation type="unfinished"></translation>
+        <translation>Économie d’énergie</translation>
     </message>
     <message>
         <source>APP CTRL切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Basculer APP/CTRL</translation>
     </message>
     <message>
         <source>背光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage on/off</translation>
     </message>
     <message>
         <source>背光灯效循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : cycle des effets</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : effet +</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : effet -</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : cycle de luminosité</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : luminosité +</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : luminosité -</translation>
     </message>
     <message>
         <source>背光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : cycle de vitesse</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : vitesse -</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : vitesse +</translation>
     </message>
     <message>
         <source>背光方向循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : cycle de direction</translation>
     </message>
     <message>
         <source>背光向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage vers la gauche</translation>
     </message>
     <message>
         <source>背光向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage vers la droite</translation>
     </message>
     <message>
         <source>背光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : cycle de couleurs</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : couleur +</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétroéclairage : couleur -</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 0</translation>
     </message>
     <message>
         <source>Use Pic 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 1</translation>
     </message>
     <message>
         <source>Use Pic 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 2</translation>
     </message>
     <message>
         <source>Use Pic 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 3</translation>
     </message>
     <message>
         <source>Use Pic 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 4</translation>
     </message>
     <message>
         <source>Use Pic</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic</translation>
     </message>
     <message>
         <source>侧光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Éclairage latéral on/off</translation>
     </message>
     <message>
         <source>侧光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Latéral : cycle de luminosité</translation>
     </message>
     <message>
         <source>侧光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Latéral : cycle de vitesse</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Latéral : vitesse +</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Latéral : vitesse -</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Latéral : cycle de couleurs</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Latéral : couleur +</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Latéral : couleur -</translation>
     </message>
     <message>
         <source>2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G</translation>
     </message>
     <message>
         <source>蓝牙1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 1</translation>
     </message>
     <message>
         <source>蓝牙2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 2</translation>
     </message>
     <message>
         <source>蓝牙3</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 3</translation>
     </message>
     <message>
         <source>有线</source>
-        <translation type="unfinished"></translation>
+        <translation>Filaire</translation>
     </message>
     <message>
         <source>有线-蓝牙-2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>Filaire-Bluetooth-2.4G</translation>
     </message>
     <message>
         <source>2.4G配对</source>
-        <translation type="unfinished"></translation>
+        <translation>Appairage 2.4G</translation>
     </message>
     <message>
         <source>蓝牙配对</source>
-        <translation type="unfinished"></translation>
+        <translation>Appairage Bluetooth</translation>
     </message>
     <message>
         <source>Insert键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche Inser</translation>
     </message>
     <message>
         <source>Print Screen键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche Impr écran</translation>
     </message>
     <message>
         <source>左键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic gauche</translation>
     </message>
     <message>
         <source>右键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic droit</translation>
     </message>
     <message>
         <source>中键按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic central</translation>
     </message>
     <message>
         <source>光标前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton suivant</translation>
     </message>
     <message>
         <source>光标后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton précédent</translation>
     </message>
     <message>
         <source>滚轮-向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette à gauche</translation>
     </message>
     <message>
         <source>滚轮-向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette à droite</translation>
     </message>
     <message>
         <source>滚轮-向上</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette vers le haut</translation>
     </message>
     <message>
         <source>滚轮-向下</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette vers le bas</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page précédente</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Page suivante</translation>
     </message>
     <message>
         <source>XUP</source>
-        <translation type="unfinished"></translation>
+        <translation>XUP</translation>
     </message>
     <message>
         <source>XDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>XDOWN</translation>
     </message>
     <message>
         <source>YUP</source>
-        <translation type="unfinished"></translation>
+        <translation>YUP</translation>
     </message>
     <message>
         <source>YDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>YDOWN</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonction</translation>
     </message>
     <message>
         <source>鼠标</source>
-        <translation type="unfinished"></translation>
+        <translation>Souris</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinaison</translation>
     </message>
 </context>
 <context>
     <name>ModuleKeyboard</name>
     <message>
         <source>已选中按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche sélectionnée</translation>
     </message>
     <message>
         <source>已修改按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche modifiée</translation>
     </message>
     <message>
         <source>已禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche désactivée</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer le réglage</translation>
     </message>
     <message>
         <source>禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactiver la touche</translation>
     </message>
     <message>
         <source>取消禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>Réactiver la touche</translation>
     </message>
 </context>
 <context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文简体</translation>
     </message>
     <message>
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>English</translation>
     </message>
     <message>
         <source>中文繁体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文繁体</translation>
     </message>
     <message>
         <source>日本語</source>
-        <translation type="unfinished"></translation>
+        <translation>日本語</translation>
     </message>
     <message>
         <source>한국어</source>
-        <translation type="unfinished"></translation>
+        <translation>한국어</translation>
     </message>
     <message>
         <source>Русский</source>
-        <translation type="unfinished"></translation>
+        <translation>Русский</translation>
     </message>
     <message>
         <source>Tiếng Việt</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng Việt</translation>
     </message>
     <message>
         <source>Português</source>
-        <translation type="unfinished"></translation>
+        <translation>Português</translation>
     </message>
     <message>
         <source>ภาษาไทย</source>
-        <translation type="unfinished"></translation>
+        <translation>ภาษาไทย</translation>
     </message>
     <message>
         <source>Deutsch</source>
-        <translation type="unfinished"></translation>
+        <translation>Deutsch</translation>
     </message>
     <message>
         <source>Français</source>
-        <translation type="unfinished"></translation>
+        <translation>Français</translation>
     </message>
     <message>
         <source>Svenska</source>
-        <translation type="unfinished"></translation>
+        <translation>Svenska</translation>
     </message>
     <message>
         <source>Italiano</source>
-        <translation type="unfinished"></translation>
+        <translation>Italiano</translation>
     </message>
     <message>
         <source>Türkçe</source>
-        <translation type="unfinished"></translation>
+        <translation>Türkçe</translation>
     </message>
 </context>
 <context>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Appui (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Relâchement (mm)</translation>
     </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle macro</translation>
     </message>
 </context>
 <context>
     <name>ModuleRtSet</name>
     <message>
         <source>拖动指针或点按 − / + 调整，所有按键立即生效。</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser le curseur ou appuyez sur − / + : toutes les touches prennent la valeur aussitôt.</translation>
     </message>
 </context>
 <context>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 7090, guide : macros</translation>
     </message>
     <message>
         <source>Orbe 2025-10-20</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 2025-10-20</translation>
     </message>
 </context>
 </TS>
