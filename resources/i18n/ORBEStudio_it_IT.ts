@@ -5,473 +5,473 @@
     <name>DialogColorPicker</name>
     <message>
         <source>完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Fine</translation>
     </message>
     <message>
         <source>按住并拖到屏幕上任意位置取色</source>
-        <translation type="unfinished"></translation>
+        <translation>Tieni premuto e trascina in un punto qualsiasi dello schermo per prelevarne il colore</translation>
     </message>
     <message>
         <source>此桌面不允许程序读取屏幕，屏幕取色不可用</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo desktop non consente ai programmi di leggere lo schermo: il prelievo del colore dallo schermo non è disponibile</translation>
     </message>
 </context>
 <context>
     <name>DialogDeviceConsole</name>
     <message>
         <source>Orbe Studio 设备调试</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe Studio - debug del dispositivo</translation>
     </message>
 </context>
 <context>
     <name>DialogFNPicker</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto sinistro</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto destro</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto centrale</translation>
     </message>
     <message>
         <source>前移</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanti</translation>
     </message>
     <message>
         <source>后移</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotella a sinistra</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotella a destra</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotella su</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotella giù</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina su</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina giù</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti di base</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti estesi</translation>
     </message>
     <message>
         <source>组合键</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinazione di tasti</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>系统功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Funzioni di sistema</translation>
     </message>
     <message>
         <source>鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Funzioni mouse</translation>
     </message>
     <message>
         <source>设置功能为:</source>
-        <translation type="unfinished"></translation>
+        <translation>Assegna:</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>宏%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro %1</translation>
     </message>
     <message>
         <source>播放方式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduzione:</translation>
     </message>
     <message>
         <source>循环次数</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripetizioni</translation>
     </message>
     <message>
         <source>自动</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Finché premuto</translation>
     </message>
     <message>
         <source>未录制的宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro non registrata</translation>
     </message>
 </context>
 <context>
     <name>DialogKeyPickerBase</name>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti di base</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti estesi</translation>
     </message>
     <message>
         <source>组合键：</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinazione:</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation type="unfinished"></translation>
+        <translation>Conferma</translation>
     </message>
 </context>
 <context>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>设备名称：Orbe 7090</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo: Orbe 7090</translation>
     </message>
     <message>
         <source>键盘固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware tastiera: V1.0</translation>
     </message>
     <message>
         <source>无线连接器固件版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware ricevitore: V1.0</translation>
     </message>
     <message>
         <source>当前版本：V1.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione attuale: V1.0</translation>
     </message>
     <message>
         <source>检查键盘固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca aggiornamenti firmware della tastiera</translation>
     </message>
     <message>
         <source>检查无线连接器固件更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca aggiornamenti firmware del ricevitore</translation>
     </message>
     <message>
         <source>操作教学</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutorial</translation>
     </message>
     <message>
         <source>关于Orbe</source>
-        <translation type="unfinished"></translation>
+        <translation>Info su Orbe</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceHolder</name>
     <message>
         <source>首页</source>
-        <translation type="unfinished"></translation>
+        <translation>Home</translation>
     </message>
     <message>
         <source>键盘设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch magnetici</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Illuminazione</translation>
     </message>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>用户</source>
-        <translation type="unfinished"></translation>
+        <translation>Utente</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>板载 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Profilo %1</translation>
     </message>
     <message>
         <source>对码</source>
-        <translation type="unfinished"></translation>
+        <translation>Associa</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina predefiniti</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrazione corsa</translation>
     </message>
     <message>
         <source>灯光设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Illuminazione</translation>
     </message>
 </context>
 <context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria</translation>
     </message>
 </context>
 <context>
     <name>FrameKeySetting</name>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizzato</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti avanzati</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Altre impostazioni</translation>
     </message>
     <message>
         <source>Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Livello Fn</translation>
     </message>
     <message>
         <source>选择按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un tasto</translation>
     </message>
     <message>
         <source>点击上方键盘中要修改的按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic sulla tastiera qui sopra sul tasto da modificare.</translation>
     </message>
     <message>
         <source>选择功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli la funzione</translation>
     </message>
     <message>
         <source>组合键、宏、系统功能或鼠标功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Una combinazione di tasti, una macro, una funzione di sistema o del mouse.</translation>
     </message>
     <message>
         <source>清除或禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella o disattiva</translation>
     </message>
     <message>
         <source>右键点击按键可清除设置或禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic destro su un tasto per cancellarne l’impostazione o disattivarlo.</translation>
     </message>
     <message>
         <source>自定义/Fn层设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizzato / Livello Fn</translation>
     </message>
     <message>
         <source>自定义按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti personalizzati</translation>
     </message>
     <message>
         <source>Fn层按键设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti del livello Fn</translation>
     </message>
     <message>
         <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
-        <translation type="unfinished"></translation>
+        <translation>*Fai prima clic su un tasto qui sopra; nella finestra che si apre scegli una combinazione di tasti, una macro, una funzione di sistema o del mouse.</translation>
     </message>
     <message>
         <source>动态键程</source>
-        <translation type="unfinished"></translation>
+        <translation>Corsa dinamica</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Tieni/Tocca</translation>
     </message>
     <message>
         <source>切换开关</source>
-        <translation type="unfinished"></translation>
+        <translation>Commutatore</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>系统按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto di sistema</translation>
     </message>
 </context>
 <context>
     <name>FrameLight</name>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviso</translation>
     </message>
     <message>
         <source>确认要删除此作品吗？</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare questa creazione?</translation>
     </message>
     <message>
         <source>我的作品%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mia creazione %1</translation>
     </message>
     <message>
         <source>预览图,作品名称,管理</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteprima,Nome,Gestisci</translation>
     </message>
     <message>
         <source>我的作品</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mie creazioni</translation>
     </message>
     <message>
         <source>图%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Livello %1</translation>
     </message>
     <message>
         <source>点击按键或在键盘空白处拖出框选来上色；选择写入层即把图写入键盘，选择读取层即从键盘读回。</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic su un tasto, o trascina un riquadro da un punto libero della tastiera, per colorare. Scegliere un livello da scrivere invia il disegno alla tastiera; scegliere un livello da leggere lo riporta indietro.</translation>
     </message>
     <message>
         <source>颜色:</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore:</translation>
     </message>
     <message>
         <source>取色器：</source>
-        <translation type="unfinished"></translation>
+        <translation>Contagocce:</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>Contagocce</translation>
     </message>
     <message>
         <source>随机颜色：</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore casuale:</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
     <message>
         <source>写入层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivi nel livello:</translation>
     </message>
     <message>
         <source>读取层(图):</source>
-        <translation type="unfinished"></translation>
+        <translation>Leggi dal livello:</translation>
     </message>
     <message>
         <source>作品名称:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiorna</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
 </context>
 <context>
     <name>FrameMacro</name>
     <message>
         <source>延迟</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritardo</translation>
     </message>
     <message>
         <source>占用</source>
-        <translation type="unfinished"></translation>
+        <translation>Usati</translation>
     </message>
     <message>
         <source>字节</source>
-        <translation type="unfinished"></translation>
+        <translation>byte</translation>
     </message>
     <message>
         <source>停止录制</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma registrazione</translation>
     </message>
     <message>
         <source>开始录制</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia registrazione</translation>
     </message>
     <message>
         <source>宏列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuova macro</translation>
     </message>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Svuota</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritardo fisso (ms):</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
     <message>
         <source>松开</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilascio</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione</translation>
     </message>
     <message>
         <source>录制时，在本页按下按键或点击鼠标即被记录</source>
-        <translation type="unfinished"></translation>
+        <translation>Durante la registrazione, i tasti e i clic su questa pagina vengono registrati</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键或点击鼠标，或用“插入”逐个添加事件</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic su “Avvia registrazione”, poi premi tasti o fai clic qui; oppure aggiungi eventi uno alla volta con “Inserisci”</translation>
     </message>
 </context>
 <context>
@@ -578,37 +578,37 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapid trigger (tutti i tasti)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation type="unfinished"></translation>
+        <translation>Corsa dei tasti (tutti i tasti)</translation>
     </message>
 </context>
 <context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni di sistema</translation>
     </message>
     <message>
         <source>开机时自动开启本程序</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia questo programma all’accesso</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing1</name>
     <message>
         <source>行程校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibrazione corsa</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -638,34 +638,34 @@
     <name>MacroItem</name>
     <message>
         <source>重命名</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina</translation>
     </message>
     <message>
         <source>删除宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina macro</translation>
     </message>
 </context>
 <context>
     <name>MacroSquare</name>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinistro</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Destro</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Centrale</translation>
     </message>
     <message>
         <source>在此处插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci qui</translation>
     </message>
     <message>
         <source>删除此事件</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina questo evento</translation>
     </message>
 </context>
 <context>
@@ -803,1087 +803,1087 @@
     <name>MainWindow</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation type="unfinished"></translation>
+        <translation>I miei dispositivi</translation>
     </message>
     <message>
         <source>显示窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra finestra</translation>
     </message>
     <message>
         <source>隐藏窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Nascondi finestra</translation>
     </message>
     <message>
         <source>退出程序</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci</translation>
     </message>
     <message>
         <source>正在搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricerca dispositivi</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviso</translation>
     </message>
     <message>
         <source>确定要退出 ORBE 驱动程序？</source>
-        <translation type="unfinished"></translation>
+        <translation>Uscire dal driver ORBE?</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>Riduci a icona</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca di nuovo</translation>
     </message>
     <message>
         <source>点击设备进入设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic su un dispositivo per configurarlo</translation>
     </message>
 </context>
 <context>
     <name>ModuleAddMacroSquare</name>
     <message>
         <source>插入</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci</translation>
     </message>
     <message>
         <source>请选择添加宏事件类型</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli il tipo di evento macro da aggiungere</translation>
     </message>
     <message>
         <source>键盘按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto della tastiera</translation>
     </message>
     <message>
         <source>鼠标按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto del mouse</translation>
     </message>
     <message>
         <source>鼠标位置</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione del mouse</translation>
     </message>
     <message>
         <source>请按下按键......</source>
-        <translation type="unfinished"></translation>
+        <translation>Premi un tasto......</translation>
     </message>
     <message>
         <source>左键</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinistro</translation>
     </message>
     <message>
         <source>中键</source>
-        <translation type="unfinished"></translation>
+        <translation>Centrale</translation>
     </message>
     <message>
         <source>右键</source>
-        <translation type="unfinished"></translation>
+        <translation>Destro</translation>
     </message>
     <message>
         <source>X(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>X(0 ~ 127):</translation>
     </message>
     <message>
         <source>Y(0 ~ 127):</source>
-        <translation type="unfinished"></translation>
+        <translation>Y(0 ~ 127):</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
     <name>ModuleAdvancedKeys</name>
     <message>
         <source>动态键程(DKS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Corsa dinamica (DKS)</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tieni/Tocca (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Commutatore (TGL)</translation>
     </message>
     <message>
         <source>SnapKey</source>
-        <translation type="unfinished"></translation>
+        <translation>SnapKey</translation>
     </message>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
     <message>
         <source>当前按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto</translation>
     </message>
     <message>
         <source>按键功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Funzione</translation>
     </message>
     <message>
         <source>一个按键在行程的四个位置各触发一个功能。点击上方键盘选择按键，点击行程数值调整触发点。</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tasto, fino a quattro funzioni in quattro punti della corsa. Scegli il tasto sulla tastiera qui sopra; fai clic su un valore di corsa per spostarne il punto.</translation>
     </message>
     <message>
         <source>单击时</source>
-        <translation type="unfinished"></translation>
+        <translation>Al tocco</translation>
     </message>
     <message>
         <source>按住时</source>
-        <translation type="unfinished"></translation>
+        <translation>Tenendo premuto</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un tasto qui sopra e assegnagli due funzioni, una per il tocco e una per la pressione prolungata (anche combinazioni di tasti).</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation type="unfinished"></translation>
+        <translation>Per quanto tempo tenere premuto il tasto perché conti come pressione prolungata</translation>
     </message>
     <message>
         <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un tasto qui sopra e assegnagli una funzione; una pressione la attiva e la successiva la disattiva, come ripetizione o come pressione prolungata.</translation>
     </message>
     <message>
         <source>连点</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripetizione</translation>
     </message>
     <message>
         <source>长按</source>
-        <translation type="unfinished"></translation>
+        <translation>Tieni premuto</translation>
     </message>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation type="unfinished"></translation>
+        <translation>Collega due tasti, ognuno scelto sulla tastiera qui sopra: quando sono premuti entrambi, vince l’ultimo premuto.</translation>
     </message>
     <message>
         <source>选择A键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto A</translation>
     </message>
     <message>
         <source>选择B键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto B</translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna funzione</translation>
     </message>
     <message>
         <source>单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Tocco</translation>
     </message>
     <message>
         <source>按住</source>
-        <translation type="unfinished"></translation>
+        <translation>Tieni</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSAdjust</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione (mm)</translation>
     </message>
     <message>
         <source>保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
 </context>
 <context>
     <name>ModuleDKSItem</name>
     <message>
         <source>未设置功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna funzione</translation>
     </message>
 </context>
 <context>
     <name>ModuleDeviceOptions</name>
     <message>
         <source>键盘回报率</source>
-        <translation type="unfinished"></translation>
+        <translation>Polling rate</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G: luci spente</translation>
     </message>
     <message>
         <source>蓝牙关闭背光</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth: luci spente</translation>
     </message>
     <message>
         <source>2.4G深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G: sospensione dopo</translation>
     </message>
     <message>
         <source>蓝牙深度睡眠时间</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth: sospensione dopo</translation>
     </message>
     <message>
         <source>按键防抖等级设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Livello di debounce</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfColor</name>
     <message>
         <source>炫彩</source>
-        <translation type="unfinished"></translation>
+        <translation>Arcobaleno</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizzato</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Spento</translation>
     </message>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>Fisso</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>Respiro</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>Flusso</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>Neon</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>Onda</translation>
     </message>
     <message>
         <source>系统默认</source>
-        <translation type="unfinished"></translation>
+        <translation>Preimpostati</translation>
     </message>
     <message>
         <source>灯带灯效设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce laterale</translation>
     </message>
     <message>
         <source>单键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto singolo</translation>
     </message>
     <message>
         <source>灯效：</source>
-        <translation type="unfinished"></translation>
+        <translation>Effetto:</translation>
     </message>
     <message>
         <source>速度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocità:</translation>
     </message>
     <message>
         <source>亮度：</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosità:</translation>
     </message>
     <message>
         <source>色彩：</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore:</translation>
     </message>
     <message>
         <source>取色器</source>
-        <translation type="unfinished"></translation>
+        <translation>Contagocce</translation>
     </message>
     <message>
         <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic su un colore: ruota al centro e illumina i tasti</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfLumi</name>
     <message>
         <source>灯光亮度</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosità</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfMode</name>
     <message>
         <source>常亮</source>
-        <translation type="unfinished"></translation>
+        <translation>Fisso</translation>
     </message>
     <message>
         <source>呼吸</source>
-        <translation type="unfinished"></translation>
+        <translation>Respiro</translation>
     </message>
     <message>
         <source>流星</source>
-        <translation type="unfinished"></translation>
+        <translation>Meteora</translation>
     </message>
     <message>
         <source>涟漪</source>
-        <translation type="unfinished"></translation>
+        <translation>Increspatura</translation>
     </message>
     <message>
         <source>极光</source>
-        <translation type="unfinished"></translation>
+        <translation>Aurora</translation>
     </message>
     <message>
         <source>雨滴</source>
-        <translation type="unfinished"></translation>
+        <translation>Gocce di pioggia</translation>
     </message>
     <message>
         <source>聚合</source>
-        <translation type="unfinished"></translation>
+        <translation>Convergenza</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation type="unfinished"></translation>
+        <translation>Flusso</translation>
     </message>
     <message>
         <source>霓虹</source>
-        <translation type="unfinished"></translation>
+        <translation>Neon</translation>
     </message>
     <message>
         <source>光波</source>
-        <translation type="unfinished"></translation>
+        <translation>Onda</translation>
     </message>
     <message>
         <source>繁星点点</source>
-        <translation type="unfinished"></translation>
+        <translation>Cielo stellato</translation>
     </message>
     <message>
         <source>如影随形</source>
-        <translation type="unfinished"></translation>
+        <translation>Ombra</translation>
     </message>
     <message>
         <source>正弦波</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinusoide</translation>
     </message>
     <message>
         <source>彩泉涌动</source>
-        <translation type="unfinished"></translation>
+        <translation>Fontana</translation>
     </message>
     <message>
         <source>百花争艳</source>
-        <translation type="unfinished"></translation>
+        <translation>Fioritura</translation>
     </message>
     <message>
         <source>一石二鸟</source>
-        <translation type="unfinished"></translation>
+        <translation>Due uccelli</translation>
     </message>
     <message>
         <source>峰回路转</source>
-        <translation type="unfinished"></translation>
+        <translation>Tornanti</translation>
     </message>
     <message>
         <source>斜风细雨</source>
-        <translation type="unfinished"></translation>
+        <translation>Pioggerellina</translation>
     </message>
     <message>
         <source>踏雪无痕</source>
-        <translation type="unfinished"></translation>
+        <translation>Orme sulla neve</translation>
     </message>
     <message>
         <source>层出不穷</source>
-        <translation type="unfinished"></translation>
+        <translation>Strati infiniti</translation>
     </message>
     <message>
         <source>光影</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce e ombra</translation>
     </message>
     <message>
         <source>音乐律动</source>
-        <translation type="unfinished"></translation>
+        <translation>Musica</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine personalizzata</translation>
     </message>
     <message>
         <source>左</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinistra</translation>
     </message>
     <message>
         <source>右</source>
-        <translation type="unfinished"></translation>
+        <translation>Destra</translation>
     </message>
     <message>
         <source>上</source>
-        <translation type="unfinished"></translation>
+        <translation>Su</translation>
     </message>
     <message>
         <source>下</source>
-        <translation type="unfinished"></translation>
+        <translation>Giù</translation>
     </message>
     <message>
         <source>Z形</source>
-        <translation type="unfinished"></translation>
+        <translation>Zigzag</translation>
     </message>
     <message>
         <source>回形</source>
-        <translation type="unfinished"></translation>
+        <translation>Spirale</translation>
     </message>
     <message>
         <source>向内</source>
-        <translation type="unfinished"></translation>
+        <translation>Verso l’interno</translation>
     </message>
     <message>
         <source>向外</source>
-        <translation type="unfinished"></translation>
+        <translation>Verso l’esterno</translation>
     </message>
     <message>
         <source>向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Verso destra</translation>
     </message>
     <message>
         <source>向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Verso sinistra</translation>
     </message>
     <message>
         <source>图案1</source>
-        <translation type="unfinished"></translation>
+        <translation>Motivo 1</translation>
     </message>
     <message>
         <source>图案2</source>
-        <translation type="unfinished"></translation>
+        <translation>Motivo 2</translation>
     </message>
     <message>
         <source>图案3</source>
-        <translation type="unfinished"></translation>
+        <translation>Motivo 3</translation>
     </message>
     <message>
         <source>图案4</source>
-        <translation type="unfinished"></translation>
+        <translation>Motivo 4</translation>
     </message>
     <message>
         <source>图案5</source>
-        <translation type="unfinished"></translation>
+        <translation>Motivo 5</translation>
     </message>
     <message>
         <source>顺时针</source>
-        <translation type="unfinished"></translation>
+        <translation>Senso orario</translation>
     </message>
     <message>
         <source>逆时针</source>
-        <translation type="unfinished"></translation>
+        <translation>Senso antiorario</translation>
     </message>
     <message>
         <source>无</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>灯效模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Effetto luce</translation>
     </message>
     <message>
         <source>灯光播放模式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduzione:</translation>
     </message>
     <message>
         <source>打开时关闭键盘灯光</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo: luci della tastiera spente</translation>
     </message>
 </context>
 <context>
     <name>ModuleEfSpeed</name>
     <message>
         <source>灯光速度</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocità</translation>
     </message>
 </context>
 <context>
     <name>ModuleGenKeymapping</name>
     <message>
         <source>上一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Brano precedente</translation>
     </message>
     <message>
         <source>下一曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Brano successivo</translation>
     </message>
     <message>
         <source>播放/暂停</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci/Pausa</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>Muto</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume +</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume -</translation>
     </message>
     <message>
         <source>播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettore multimediale</translation>
     </message>
     <message>
         <source>计算器</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolatrice</translation>
     </message>
     <message>
         <source>邮件</source>
-        <translation type="unfinished"></translation>
+        <translation>Posta</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation type="unfinished"></translation>
+        <translation>Risorse del computer</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca</translation>
     </message>
     <message>
         <source>主页</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina iniziale</translation>
     </message>
     <message>
         <source>后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanti</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiorna</translation>
     </message>
     <message>
         <source>收藏</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferiti</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosità schermo +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosità schermo -</translation>
     </message>
     <message>
         <source>放大</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingrandisci</translation>
     </message>
     <message>
         <source>缩小</source>
-        <translation type="unfinished"></translation>
+        <translation>Riduci</translation>
     </message>
     <message>
         <source>呼出Siri</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistente vocale</translation>
     </message>
     <message>
         <source>切换输入法</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia metodo di input</translation>
     </message>
     <message>
         <source>返回</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>Fn键锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocco Fn</translation>
     </message>
     <message>
         <source>锁屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca schermo</translation>
     </message>
     <message>
         <source>R-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto Fn destro</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Loop</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>DPI-Shift</translation>
     </message>
     <message>
         <source>电源</source>
-        <translation type="unfinished"></translation>
+        <translation>Accensione</translation>
     </message>
     <message>
         <source>睡眠</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospensione</translation>
     </message>
     <message>
         <source>唤醒</source>
-        <translation type="unfinished"></translation>
+        <translation>Riattiva</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Value</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-Loop</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile-5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto Fn sinistro</translation>
     </message>
     <message>
         <source>恢复出厂设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristino di fabbrica</translation>
     </message>
     <message>
         <source>锁Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca tasto Win</translation>
     </message>
     <message>
         <source>切换Win</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalità Windows</translation>
     </message>
     <message>
         <source>切换Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalità Mac</translation>
     </message>
     <message>
         <source>系统切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia sistema</translation>
     </message>
     <message>
         <source>Check Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Check Battery</translation>
     </message>
     <message>
         <source>WASD切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Scambia WASD e frecce</translation>
     </message>
     <message>
         <source>Fn层切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia livello Fn</translation>
     </message>
     <message>
         <source>设备节能</source>
-        <translation type="unfinished"></translation>
+        <translation>Risparmio energetico</translation>
     </message>
     <message>
         <source>APP CTRL切换</source>
-        <translation type="unfinished"></translation>
+        <translation>Scambia APP/CTRL</translation>
     </message>
     <message>
         <source>背光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroilluminazione on/off</translation>
     </message>
     <message>
         <source>背光灯效循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: ciclo effetti</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: effetto +</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: effetto -</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: ciclo luminosità</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: luminosità +</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: luminosità -</translation>
     </message>
     <message>
         <source>背光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: ciclo velocità</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: velocità -</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: velocità +</translation>
     </message>
     <message>
         <source>背光方向循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: ciclo direzione</translation>
     </message>
     <message>
         <source>背光向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: verso sinistra</translation>
     </message>
     <message>
         <source>背光向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: verso destra</translation>
     </message>
     <message>
         <source>背光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: ciclo colori</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: colore +</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroill.: colore -</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 0</translation>
     </message>
     <message>
         <source>Use Pic 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 1</translation>
     </message>
     <message>
         <source>Use Pic 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 2</translation>
     </message>
     <message>
         <source>Use Pic 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 3</translation>
     </message>
     <message>
         <source>Use Pic 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic 4</translation>
     </message>
     <message>
         <source>Use Pic</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Pic</translation>
     </message>
     <message>
         <source>侧光开/关</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce laterale on/off</translation>
     </message>
     <message>
         <source>侧光亮度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce laterale: ciclo luminosità</translation>
     </message>
     <message>
         <source>侧光速度循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce laterale: ciclo velocità</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce laterale: velocità +</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce laterale: velocità -</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce laterale: ciclo colori</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce laterale: colore +</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation type="unfinished"></translation>
+        <translation>Luce laterale: colore -</translation>
     </message>
     <message>
         <source>2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>2.4G</translation>
     </message>
     <message>
         <source>蓝牙1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 1</translation>
     </message>
     <message>
         <source>蓝牙2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 2</translation>
     </message>
     <message>
         <source>蓝牙3</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth 3</translation>
     </message>
     <message>
         <source>有线</source>
-        <translation type="unfinished"></translation>
+        <translation>Cablato</translation>
     </message>
     <message>
         <source>有线-蓝牙-2.4G</source>
-        <translation type="unfinished"></translation>
+        <translation>Cablato-Bluetooth-2.4G</translation>
     </message>
     <message>
         <source>2.4G配对</source>
-        <translation type="unfinished"></translation>
+        <translation>Associa 2.4G</translation>
     </message>
     <message>
         <source>蓝牙配对</source>
-        <translation type="unfinished"></translation>
+        <translation>Associa Bluetooth</translation>
     </message>
     <message>
         <source>Insert键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto Ins</translation>
     </message>
     <message>
         <source>Print Screen键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto Stamp</translation>
     </message>
     <message>
         <source>左键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic sinistro</translation>
     </message>
     <message>
         <source>右键单击</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic destro</translation>
     </message>
     <message>
         <source>中键按下</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic centrale</translation>
     </message>
     <message>
         <source>光标前进</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto Avanti</translation>
     </message>
     <message>
         <source>光标后退</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto Indietro</translation>
     </message>
     <message>
         <source>滚轮-向左</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotella a sinistra</translation>
     </message>
     <message>
         <source>滚轮-向右</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotella a destra</translation>
     </message>
     <message>
         <source>滚轮-向上</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotella su</translation>
     </message>
     <message>
         <source>滚轮-向下</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotella giù</translation>
     </message>
     <message>
         <source>向上滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina su</translation>
     </message>
     <message>
         <source>向下滚屏</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina giù</translation>
     </message>
     <message>
         <source>XUP</source>
-        <translation type="unfinished"></translation>
+        <translation>XUP</translation>
     </message>
     <message>
         <source>XDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>XDOWN</translation>
     </message>
     <message>
         <source>YUP</source>
-        <translation type="unfinished"></translation>
+        <translation>YUP</translation>
     </message>
     <message>
         <source>YDOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>YDOWN</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>功能</source>
-        <translation type="unfinished"></translation>
+        <translation>Funzione</translation>
     </message>
     <message>
         <source>鼠标</source>
-        <translation type="unfinished"></translation>
+        <translation>Mouse</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinazione</translation>
     </message>
 </context>
 <context>
     <name>ModuleKeyboard</name>
     <message>
         <source>已选中按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto selezionato</translation>
     </message>
     <message>
         <source>已修改按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto modificato</translation>
     </message>
     <message>
         <source>已禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto disattivato</translation>
     </message>
     <message>
         <source>清除设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella impostazione</translation>
     </message>
     <message>
         <source>禁用按键</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattiva tasto</translation>
     </message>
     <message>
         <source>取消禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>Riattiva tasto</translation>
     </message>
 </context>
 <context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文简体</translation>
     </message>
     <message>
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>English</translation>
     </message>
     <message>
         <source>中文繁体</source>
-        <translation type="unfinished"></translation>
+        <translation>中文繁体</translation>
     </message>
     <message>
         <source>日本語</source>
-        <translation type="unfinished"></translation>
+        <translation>日本語</translation>
     </message>
     <message>
         <source>한국어</source>
-        <translation type="unfinished"></translation>
+        <translation>한국어</translation>
     </message>
     <message>
         <source>Русский</source>
-        <translation type="unfinished"></translation>
+        <translation>Русский</translation>
     </message>
     <message>
         <source>Tiếng Việt</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiếng Việt</translation>
     </message>
     <message>
         <source>Português</source>
-        <translation type="unfinished"></translation>
+        <translation>Português</translation>
     </message>
     <message>
         <source>ภาษาไทย</source>
-        <translation type="unfinished"></translation>
+        <translation>ภาษาไทย</translation>
     </message>
     <message>
         <source>Deutsch</source>
-        <translation type="unfinished"></translation>
+        <translation>Deutsch</translation>
     </message>
     <message>
         <source>Français</source>
-        <translation type="unfinished"></translation>
+        <translation>Français</translation>
     </message>
     <message>
         <source>Svenska</source>
-        <translation type="unfinished"></translation>
+        <translation>Svenska</translation>
     </message>
     <message>
         <source>Italiano</source>
-        <translation type="unfinished"></translation>
+        <translation>Italiano</translation>
     </message>
     <message>
         <source>Türkçe</source>
-        <translation type="unfinished"></translation>
+        <translation>Türkçe</translation>
     </message>
 </context>
 <context>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilascio (mm)</translation>
     </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuova macro</translation>
     </message>
 </context>
 <context>
     <name>ModuleRtSet</name>
     <message>
         <source>拖动指针或点按 − / + 调整，所有按键立即生效。</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina il puntatore o premi − / +: tutti i tasti prendono subito il valore.</translation>
     </message>
 </context>
 <context>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 7090 guida: macro</translation>
     </message>
     <message>
         <source>Orbe 2025-10-20</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbe 2025-10-20</translation>
     </message>
 </context>
 </TS>
