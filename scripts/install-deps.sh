@@ -5,10 +5,12 @@
 # Uses sudo when not run as root.
 set -euo pipefail
 
+# The fonts give the interface's Chinese, Japanese, Korean and Thai texts their glyphs.
 run_packages=(
   build-essential cmake pkg-config
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-qpa-plugins
   libhidapi-dev libgl-dev libpulse-dev libudev-dev
+  fonts-noto-cjk fonts-thai-tlwg
 )
 # The Windows platform layer's syntax check; the installed hub under a virtual display; the
 # desktop entry, metainfo and manual page checks; the package's build (dpkg-shlibdeps, file);

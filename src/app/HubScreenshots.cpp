@@ -23,11 +23,13 @@
 #include "FrameDeviceShow.h"
 #include "FrameMacro.h"
 #include "KeyPageShots.h"
+#include "Languages.h"
 #include "LightPageShots.h"
 #include "MagneticShots.h"
 #include "MainWindow.h"
 #include "ModuleAddMacroSquare.h"
 #include "ModuleEfColor.h"
+#include "ModuleLangMenu.h"
 #include "ModuleMacroManager.h"
 #include "Platform.h"
 #include "ScriptedInput.h"
@@ -54,10 +56,18 @@
 namespace {
 
 constexpr int kEnglish = 1;
+// The card page is also taken in these languages, to show the translations and their fonts.
+struct CardShot
+{
+    int language; // index into kLanguages
+    const char* file;
+};
+constexpr CardShot kCardShots[] = {{3, "/cards-ja.png"}, {9, "/cards-de.png"}};
 constexpr int kDevicesInSet = 6;
 constexpr int kPollMs = 100;
 constexpr int kSettleMs = 3000; // the cards' first battery answers come 2 s after they show
 constexpr int kGiveUpMs = 60000;
+constexpr int kRelayoutMs = 1000;
 
 bool save(QWidget& window, const QString& path)
 {
@@ -179,6 +189,15 @@ int main(int argc, char* argv[])
     app.setStyleSheet(AppStartup::applicationStyleSheet());
     const QString out = app.arguments().value(1, QStringLiteral("."));
     QDir().mkpath(out);
+    // A second argument takes every page in that language instead (an index of the language
+    // menu), for reading a translation back in place.
+    bool languageGiven = false;
+    const int language = app.arguments().value(2).toInt(&languageGiven);
+    const bool allInEnglish = !languageGiven || language == kEnglish;
+    if (languageGiven && (language < 0 || language >= int(kLanguages.size()))) {
+        QTextStream(stderr) << "no language " << language << '\n';
+        return 2;
+    }
 
     QTemporaryDir programDir;
     if (!copyProgramFiles(programDir.path())) {
@@ -189,7 +208,7 @@ int main(int argc, char* argv[])
 
     QTranslator appTranslator, qtBaseTranslator, qtTranslator;
     const std::unique_ptr<Platform> platform = Platform::create();
-    platform->setUserValue(QStringLiteral("lastlang"), kEnglish);
+    platform->setUserValue(QStringLiteral("lastlang"), allInEnglish ? kEnglish : language);
     MainWindow window(AppStartup::createHidBackend(true), *platform, nullptr, programDir.path());
     window.appTranslator = &appTranslator;
     window.qtBaseTranslator = &qtBaseTranslator;
@@ -200,6 +219,8 @@ int main(int argc, char* argv[])
     enum class Step {
         Cards,
         Settle,
+        CardsIn,
+        CardsBack,
         Shell,
         Picker,
         Record,
@@ -222,6 +243,7 @@ int main(int argc, char* argv[])
     int macroStep = 0;
     int ticksLeft = 0;
     int advancedTab = 0;
+    int cardShot = 0;
     FrameMacro* macroPage = nullptr;
     DialogColorPicker* picker = nullptr;
     int result = 1;
@@ -242,6 +264,27 @@ int main(int argc, char* argv[])
         case Step::Settle:
             if (waited < kSettleMs) return;
             if (!save(window, out + QStringLiteral("/cards.png"))) app.exit(1);
+            if (allInEnglish) {
+                window.languageMenu()->selectLanguage(kCardShots[0].language);
+                step = Step::CardsIn;
+                waited = 0;
+                return;
+            }
+            step = Step::CardsBack;
+            return;
+        case Step::CardsIn:
+            // The windows take the language change, then lay their new texts out again.
+            if (waited < kRelayoutMs) return;
+            waited = 0;
+            if (!save(window, out + QLatin1String(kCardShots[cardShot].file))) app.exit(1);
+            if (++cardShot < int(std::size(kCardShots))) {
+                window.languageMenu()->selectLanguage(kCardShots[cardShot].language);
+                return;
+            }
+            window.languageMenu()->selectLanguage(kEnglish);
+            step = Step::CardsBack;
+            return;
+        case Step::CardsBack:
             // The native keyboard on Bluetooth, the second card: its page shows the battery.
             ScriptedInput::click(window.card(1));
             step = Step::Shell;
