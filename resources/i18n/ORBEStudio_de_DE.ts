@@ -257,15 +257,15 @@
     <name>FrameKeySetting</name>
     <message>
         <source>自定义</source>
-        <translation>Benutzerdefiniert</translation>
+        <translation>Belegung</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation>Erweiterte Tasten</translation>
+        <translation>Spezialtasten</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Weitere Einstellungen</translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>预览图,作品名称,管理</source>
-        <translation>Vorschau,Name,Verwalten</translation>
+        <translation>Vorschau,Name,Aktion</translation>
     </message>
     <message>
         <source>我的作品</source>
@@ -578,11 +578,11 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Rapid Trigger (alle Tasten)</translation>
+        <translation>Rapid Trigger (global)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Tastenhub (alle Tasten)</translation>
+        <translation>Tastenhub (global)</translation>
     </message>
 </context>
 <context>

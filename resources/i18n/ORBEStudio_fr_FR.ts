@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>高级键</source>
-        <translation>Touches avancées</translation>
+        <translation>Avancées</translation>
     </message>
     <message>
         <source>其他设置</source>
@@ -578,11 +578,11 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Rapid Trigger (toutes les touches)</translation>
+        <translation>Rapid Trigger (global)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Course des touches (toutes)</translation>
+        <translation>Course (toutes)</translation>
     </message>
 </context>
 <context>
@@ -1109,7 +1109,7 @@
     </message>
     <message>
         <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
-        <translation>Cliquez sur une couleur : elle tourne au centre et éclaire les touches</translation>
+        <translation>Cliquez sur une couleur : elle devient celle des touches</translation>
     </message>
 </context>
 <context>

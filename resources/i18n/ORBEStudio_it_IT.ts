@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Altre impostazioni</translation>
+        <translation>Altre opzioni</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -578,11 +578,11 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Rapid trigger (tutti i tasti)</translation>
+        <translation>Rapid trigger (tutti)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Corsa dei tasti (tutti i tasti)</translation>
+        <translation>Corsa (tutti i tasti)</translation>
     </message>
 </context>
 <context>

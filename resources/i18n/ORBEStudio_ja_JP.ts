@@ -227,7 +227,7 @@
     </message>
     <message>
         <source>板载 %1</source>
-        <translation>オンボード %1</translation>
+        <translation>メモリ%1</translation>
     </message>
     <message>
         <source>对码</source>

@@ -261,11 +261,11 @@
     </message>
     <message>
         <source>高级键</source>
-        <translation>Teclas avançadas</translation>
+        <translation>Avançadas</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Outras definições</translation>
+        <translation>Outras opções</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -578,11 +578,11 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Rapid Trigger (todas as teclas)</translation>
+        <translation>Rapid Trigger (todas)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Curso das teclas (todas as teclas)</translation>
+        <translation>Curso (todas as teclas)</translation>
     </message>
 </context>
 <context>

@@ -261,11 +261,11 @@
     </message>
     <message>
         <source>高级键</source>
-        <translation>Расширенные клавиши</translation>
+        <translation>Доп. клавиши</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Прочие настройки</translation>
+        <translation>Прочее</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -578,7 +578,7 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Rapid Trigger (все клавиши)</translation>
+        <translation>RT (все клавиши)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
@@ -1109,7 +1109,7 @@
     </message>
     <message>
         <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
-        <translation>Нажмите на цвет: он повернётся в центр и станет цветом клавиш</translation>
+        <translation>Нажмите на цвет: он встанет в центр и окрасит клавиши</translation>
     </message>
 </context>
 <context>

@@ -261,11 +261,11 @@
     </message>
     <message>
         <source>高级键</source>
-        <translation>Avancerade tangenter</translation>
+        <translation>Avancerade</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Övriga inställningar</translation>
+        <translation>Övrigt</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -578,11 +578,11 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Rapid trigger (alla tangenter)</translation>
+        <translation>Rapid trigger (alla)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Tangentväg (alla tangenter)</translation>
+        <translation>Tangentväg (alla)</translation>
     </message>
 </context>
 <context>
@@ -1109,7 +1109,7 @@
     </message>
     <message>
         <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
-        <translation>Klicka på en färg: den vrids till mitten och tänder tangenterna</translation>
+        <translation>Klicka på en färg: den blir tangenternas färg</translation>
     </message>
 </context>
 <context>

@@ -578,11 +578,11 @@
     <name>FrameMain</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Rapid trigger (tüm tuşlar)</translation>
+        <translation>Rapid trigger (tümü)</translation>
     </message>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Tuş yolu (tüm tuşlar)</translation>
+        <translation>Tuş yolu (tümü)</translation>
     </message>
 </context>
 <context>

@@ -1109,7 +1109,7 @@
     </message>
     <message>
         <source>点击一种颜色，它会转到中间并成为灯效的颜色</source>
-        <translation>Nhấp vào một màu: màu đó xoay vào giữa và thành màu đèn của phím</translation>
+        <translation>Nhấp một màu: màu đó sẽ thành màu đèn của phím</translation>
     </message>
 </context>
 <context>
