@@ -336,7 +336,7 @@
     <name>FrameLight</name>
     <message>
         <source>删除</source>
-        <translation>Supprimer</translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>提示</source>
@@ -384,7 +384,7 @@
     </message>
     <message>
         <source>清除设置</source>
-        <translation>Effacer</translation>
+        <translation>Tout effacer</translation>
     </message>
     <message>
         <source>写入层(图):</source>

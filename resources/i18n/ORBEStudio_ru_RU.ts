@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>预览图,作品名称,管理</source>
-        <translation>Превью,Название,Действия</translation>
+        <translation>Превью,Название,Действие</translation>
     </message>
     <message>
         <source>我的作品</source>

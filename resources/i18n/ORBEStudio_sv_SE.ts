@@ -1018,7 +1018,7 @@
     <name>ModuleDeviceOptions</name>
     <message>
         <source>键盘回报率</source>
-        <translation>Rapporteringsfrekvens</translation>
+        <translation>Rapportfrekvens</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>

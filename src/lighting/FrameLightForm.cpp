@@ -30,7 +30,7 @@ constexpr int kKeyboardCardHeight = 372;
 constexpr int kGap = 16;
 constexpr int kWorksCardWidth = 540;
 constexpr int kPreviewWidth = 200;
-constexpr int kManageWidth = 60;
+constexpr int kManageWidth = 84; // the delete link and its heading in every language
 constexpr int kSwatchSize = 32;
 constexpr QSize kLayerButtonSize{76, 30};
 
