@@ -478,100 +478,100 @@
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenhub</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Totzonen</translation>
     </message>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch-Typ</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation type="unfinished"></translation>
+        <translation>Stabilisierung</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Tasten</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation type="unfinished"></translation>
+        <translation>Gaote</translation>
     </message>
     <message>
         <source>磁玉</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade</translation>
     </message>
     <message>
         <source>磁玉pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
     <message>
         <source>天王</source>
-        <translation type="unfinished"></translation>
+        <translation>Sky King</translation>
     </message>
     <message>
         <source>万磁王</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnet King</translation>
     </message>
     <message>
         <source>机械轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Mechanisch</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaihua</translation>
     </message>
     <message>
         <source>星引力</source>
-        <translation type="unfinished"></translation>
+        <translation>Star Gravity</translation>
     </message>
     <message>
         <source>炫光</source>
-        <translation type="unfinished"></translation>
+        <translation>Dazzle</translation>
     </message>
     <message>
         <source>闪电</source>
-        <translation type="unfinished"></translation>
+        <translation>Lightning</translation>
     </message>
     <message>
         <source>星耀</source>
-        <translation type="unfinished"></translation>
+        <translation>Starshine</translation>
     </message>
     <message>
         <source>矮磁轴</source>
         <extracomment>冠泰轴</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Flach</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Baize</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigener</translation>
     </message>
     <message>
         <source>磁玉Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉Gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
 </context>
 <context>
@@ -612,26 +612,26 @@
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücke jede Taste nacheinander sanft ganz durch und halte sie mindestens eine Sekunde unten, bis sie orange wird (diese Taste ist kalibriert). Lass keine aus; erneutes Drücken schadet nicht. Über Funk werden die kalibrierten Tasten nicht angezeigt. Zieh während der Kalibrierung das Kabel nicht ab.</translation>
     </message>
     <message>
         <source>行程校准操作指南</source>
-        <translation type="unfinished"></translation>
+        <translation>Anleitung zur Hubkalibrierung</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>开始校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalibrierung starten</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing2</name>
     <message>
         <source>完成校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalibrierung beenden</translation>
     </message>
 </context>
 <context>
@@ -672,131 +672,131 @@
     <name>MagicDeadZonePage</name>
     <message>
         <source>当前选择按键数量:0</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Tasten: 0</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Totzonen</translation>
     </message>
     <message>
         <source>按键死区设定</source>
-        <translation type="unfinished"></translation>
+        <translation>Totzonen der Tasten</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Weg zwischen dem Tiefpunkt und dem Beginn des Loslassens heißt „Totzone“. Totzonen verhindern, dass ein Magnet-Switch durch äußere Störungen aussetzt. Der Tiefpunkt eines Magnet-Switches lässt sich nach Wunsch einstellen; innerhalb einer Totzone löst die Taste nicht aus.</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>顶部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>Obere Totzone</translation>
     </message>
     <message>
         <source>底部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>Untere Totzone</translation>
     </message>
 </context>
 <context>
     <name>MagicStabPage</name>
     <message>
         <source>0%(关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>0% (aus)</translation>
     </message>
     <message>
         <source>已开启</source>
-        <translation type="unfinished"></translation>
+        <translation>An</translation>
     </message>
     <message>
         <source>已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
-        <translation type="unfinished"></translation>
+        <translation>RT Stab (Rapid-Trigger-Stabilisierung)</translation>
     </message>
     <message>
         <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit RT Stab stabilisiert die Tastatur das untere Ende des Hubs. Je höher die Stufe, desto ruhiger die Tasten, bei etwas mehr Latenz.</translation>
     </message>
     <message>
         <source>防误触模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlauslöseschutz</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei den empfindlichsten Einstellungen können ein wackelnder Tisch oder eine Switch-Toleranz von bis zu 0,1 mm eine Taste versehentlich auslösen. Eingeschaltet gleicht die Tastatur diese Differenz am unteren Ende des Hubs aus und bleibt stabiler.</translation>
     </message>
     <message>
         <source>(已关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Aus)</translation>
     </message>
 </context>
 <context>
     <name>MagicSwitchPage</name>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch-Typ</translation>
     </message>
     <message>
         <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einem Switch-Tausch einen Typ unten wählen, dann die Tasten anklicken, die ihn tragen: Jede Taste wird sofort gesetzt und zeigt die Farbe ihres Switch-Typs.</translation>
     </message>
 </context>
 <context>
     <name>MagicTestPage</name>
     <message>
         <source>行程测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Hubtest</translation>
     </message>
     <message>
         <source>按键测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastentest</translation>
     </message>
     <message>
         <source>输入值</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfangene Tasten</translation>
     </message>
 </context>
 <context>
     <name>MagicTravelPage</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenhub</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken und Loslassen getrennt:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapid Trigger über den ganzen Hub (RT)</translation>
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。</source>
-        <translation type="unfinished"></translation>
+        <translation>An: Rapid Trigger endet erst, wenn die Taste ganz losgelassen ist.</translation>
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus: Rapid Trigger endet, sobald die Taste über ihren Auslösepunkt steigt.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneutes Drücken und Zurücksetzen getrennt</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg bis zum erneuten Auslösen beim Drücken (mm)</translation>
     </message>
     <message>
         <source>松开按键重置所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg bis zum Zurücksetzen beim Loslassen (mm)</translation>
     </message>
 </context>
 <context>

@@ -478,100 +478,100 @@
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Course</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Zones mortes</translation>
     </message>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de switch</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation type="unfinished"></translation>
+        <translation>Stabilisation</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches sélectionnées</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation type="unfinished"></translation>
+        <translation>Gaote</translation>
     </message>
     <message>
         <source>磁玉</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade</translation>
     </message>
     <message>
         <source>磁玉pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
     <message>
         <source>天王</source>
-        <translation type="unfinished"></translation>
+        <translation>Sky King</translation>
     </message>
     <message>
         <source>万磁王</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnet King</translation>
     </message>
     <message>
         <source>机械轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Mécanique</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaihua</translation>
     </message>
     <message>
         <source>星引力</source>
-        <translation type="unfinished"></translation>
+        <translation>Star Gravity</translation>
     </message>
     <message>
         <source>炫光</source>
-        <translation type="unfinished"></translation>
+        <translation>Dazzle</translation>
     </message>
     <message>
         <source>闪电</source>
-        <translation type="unfinished"></translation>
+        <translation>Lightning</translation>
     </message>
     <message>
         <source>星耀</source>
-        <translation type="unfinished"></translation>
+        <translation>Starshine</translation>
     </message>
     <message>
         <source>矮磁轴</source>
         <extracomment>冠泰轴</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Extra-plat</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Baize</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Personnalisé</translation>
     </message>
     <message>
         <source>磁玉Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉Gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
 </context>
 <context>
@@ -612,26 +612,26 @@
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation type="unfinished"></translation>
+        <translation>Enfoncez chaque touche l’une après l’autre, doucement et jusqu’au fond, et maintenez-la au moins une seconde, jusqu’à ce qu’elle devienne orange (cette touche est calibrée). N’en oubliez aucune ; appuyer de nouveau sur une touche ne pose pas de problème. En sans-fil, les touches calibrées ne sont pas affichées. Ne débranchez pas le câble pendant le calibrage.</translation>
     </message>
     <message>
         <source>行程校准操作指南</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide de calibrage de la course</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>开始校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer le calibrage</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing2</name>
     <message>
         <source>完成校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminer le calibrage</translation>
     </message>
 </context>
 <context>
@@ -672,131 +672,131 @@
     <name>MagicDeadZonePage</name>
     <message>
         <source>当前选择按键数量:0</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches sélectionnées : 0</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Zones mortes</translation>
     </message>
     <message>
         <source>按键死区设定</source>
-        <translation type="unfinished"></translation>
+        <translation>Zones mortes des touches</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation type="unfinished"></translation>
+        <translation>La course entre le fond et le début du relâchement s’appelle la « zone morte ». Les zones mortes évitent qu’un switch magnétique décroche à cause d’interférences extérieures. Le fond d’un switch magnétique se règle à votre goût ; dans une zone morte, la touche ne se déclenche pas.</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>顶部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone morte haute</translation>
     </message>
     <message>
         <source>底部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone morte basse</translation>
     </message>
 </context>
 <context>
     <name>MagicStabPage</name>
     <message>
         <source>0%(关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 % (désactivé)</translation>
     </message>
     <message>
         <source>已开启</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
-        <translation type="unfinished"></translation>
+        <translation>RT Stab (stabilisation du Rapid Trigger)</translation>
     </message>
     <message>
         <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec RT Stab, le clavier stabilise le bas de la course. Plus le niveau est élevé, plus les touches sont stables, au prix d’un peu plus de latence.</translation>
     </message>
     <message>
         <source>防误触模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Anti-frappe accidentelle</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
-        <translation type="unfinished"></translation>
+        <translation>Aux réglages les plus sensibles, un bureau qui tremble ou une tolérance de switch jusqu’à 0,1 mm peuvent déclencher une touche par erreur. Activé, le clavier compense cet écart en bas de la course et reste plus stable.</translation>
     </message>
     <message>
         <source>(已关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Désactivé)</translation>
     </message>
 </context>
 <context>
     <name>MagicSwitchPage</name>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de switch</translation>
     </message>
     <message>
         <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
-        <translation type="unfinished"></translation>
+        <translation>Après avoir changé de switchs, choisissez un type ci-dessous, puis cliquez sur les touches qui le portent : chaque touche est réglée aussitôt et prend la couleur de son type de switch.</translation>
     </message>
 </context>
 <context>
     <name>MagicTestPage</name>
     <message>
         <source>行程测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Test de course</translation>
     </message>
     <message>
         <source>按键测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Test des touches</translation>
     </message>
     <message>
         <source>输入值</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches reçues</translation>
     </message>
 </context>
 <context>
     <name>MagicTravelPage</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Course</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>Appui et relâchement séparés :</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapid Trigger sur toute la course (RT)</translation>
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé : le Rapid Trigger ne s’arrête que lorsque la touche est entièrement relâchée.</translation>
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé : le Rapid Trigger s’arrête dès que la touche remonte au-dessus de son point d’activation.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation type="unfinished"></translation>
+        <translation>Réappui et réinitialisation séparés</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Course pour redéclencher à l’appui (mm)</translation>
     </message>
     <message>
         <source>松开按键重置所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Course pour réinitialiser au relâchement (mm)</translation>
     </message>
 </context>
 <context>

@@ -478,100 +478,100 @@
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>키 트래블</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>데드존</translation>
     </message>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>스위치 종류</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation type="unfinished"></translation>
+        <translation>안정화</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation type="unfinished"></translation>
+        <translation>테스트</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 키 수</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation type="unfinished"></translation>
+        <translation>Gaote</translation>
     </message>
     <message>
         <source>磁玉</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade</translation>
     </message>
     <message>
         <source>磁玉pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
     <message>
         <source>天王</source>
-        <translation type="unfinished"></translation>
+        <translation>Sky King</translation>
     </message>
     <message>
         <source>万磁王</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnet King</translation>
     </message>
     <message>
         <source>机械轴</source>
-        <translation type="unfinished"></translation>
+        <translation>기계식</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaihua</translation>
     </message>
     <message>
         <source>星引力</source>
-        <translation type="unfinished"></translation>
+        <translation>Star Gravity</translation>
     </message>
     <message>
         <source>炫光</source>
-        <translation type="unfinished"></translation>
+        <translation>Dazzle</translation>
     </message>
     <message>
         <source>闪电</source>
-        <translation type="unfinished"></translation>
+        <translation>Lightning</translation>
     </message>
     <message>
         <source>星耀</source>
-        <translation type="unfinished"></translation>
+        <translation>Starshine</translation>
     </message>
     <message>
         <source>矮磁轴</source>
         <extracomment>冠泰轴</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>로우 프로파일</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Baize</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 지정</translation>
     </message>
     <message>
         <source>磁玉Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉Gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
 </context>
 <context>
@@ -612,26 +612,26 @@
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation type="unfinished"></translation>
+        <translation>각 키를 차례로 끝까지 살짝 눌러 주황색이 될 때까지(해당 키 보정 완료) 1초 이상 누르고 계세요. 빠뜨리지 말고, 같은 키를 다시 눌러도 괜찮습니다. 무선 연결에서는 보정된 키가 표시되지 않습니다. 보정 중에는 케이블을 뽑지 마세요.</translation>
     </message>
     <message>
         <source>行程校准操作指南</source>
-        <translation type="unfinished"></translation>
+        <translation>키 트래블 보정 안내</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>开始校准</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 시작</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing2</name>
     <message>
         <source>完成校准</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 완료</translation>
     </message>
 </context>
 <context>
@@ -672,131 +672,131 @@
     <name>MagicDeadZonePage</name>
     <message>
         <source>当前选择按键数量:0</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 키 수:0</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>데드존</translation>
     </message>
     <message>
         <source>按键死区设定</source>
-        <translation type="unfinished"></translation>
+        <translation>키 데드존</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation type="unfinished"></translation>
+        <translation>바닥에 닿은 뒤 떼기 시작할 때까지의 거리를 &quot;데드존&quot;이라고 합니다. 데드존은 외부 간섭으로 자석축 입력이 끊기는 것을 막아 줍니다. 자석축의 바닥 위치는 원하는 대로 설정할 수 있으며, 데드존 안에서는 키가 동작하지 않습니다.</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>적용</translation>
     </message>
     <message>
         <source>顶部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>상단 데드존</translation>
     </message>
     <message>
         <source>底部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>하단 데드존</translation>
     </message>
 </context>
 <context>
     <name>MagicStabPage</name>
     <message>
         <source>0%(关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>0%(끔)</translation>
     </message>
     <message>
         <source>已开启</source>
-        <translation type="unfinished"></translation>
+        <translation>켜짐</translation>
     </message>
     <message>
         <source>已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>꺼짐</translation>
     </message>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
-        <translation type="unfinished"></translation>
+        <translation>RT Stab(래피드 트리거 안정화)</translation>
     </message>
     <message>
         <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
-        <translation type="unfinished"></translation>
+        <translation>RT Stab을 켜면 키보드가 트래블 바닥 부분을 안정시킵니다. 단계가 높을수록 더 안정적이지만 지연이 약간 늘어납니다.</translation>
     </message>
     <message>
         <source>防误触模式</source>
-        <translation type="unfinished"></translation>
+        <translation>오입력 방지</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
-        <translation type="unfinished"></translation>
+        <translation>가장 민감한 설정에서는 책상 흔들림이나 최대 0.1mm의 스위치 공차로 키가 잘못 입력될 수 있습니다. 켜면 키보드가 트래블 바닥에서 그 차이를 보정해 더 안정적으로 동작합니다.</translation>
     </message>
     <message>
         <source>(已关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>(꺼짐)</translation>
     </message>
 </context>
 <context>
     <name>MagicSwitchPage</name>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>스위치 종류</translation>
     </message>
     <message>
         <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
-        <translation type="unfinished"></translation>
+        <translation>스위치를 교체한 뒤 아래에서 종류를 고르고, 그 스위치를 단 키를 클릭하세요. 키는 바로 설정되고 스위치 종류의 색으로 표시됩니다.</translation>
     </message>
 </context>
 <context>
     <name>MagicTestPage</name>
     <message>
         <source>行程测试</source>
-        <translation type="unfinished"></translation>
+        <translation>트래블 테스트</translation>
     </message>
     <message>
         <source>按键测试</source>
-        <translation type="unfinished"></translation>
+        <translation>키 테스트</translation>
     </message>
     <message>
         <source>输入值</source>
-        <translation type="unfinished"></translation>
+        <translation>입력된 키</translation>
     </message>
 </context>
 <context>
     <name>MagicTravelPage</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>키 트래블</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>적용</translation>
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>누름과 뗌 따로 설정:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
-        <translation type="unfinished"></translation>
+        <translation>전 구간 래피드 트리거(RT)</translation>
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。</source>
-        <translation type="unfinished"></translation>
+        <translation>켜짐: 키를 완전히 뗐을 때만 래피드 트리거가 끝납니다.</translation>
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation type="unfinished"></translation>
+        <translation>꺼짐: 키가 작동 지점 위로 올라가면 래피드 트리거가 끝납니다.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation type="unfinished"></translation>
+        <translation>재입력과 리셋 트래블 따로 설정</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 눌러 입력되는 트래블(mm)</translation>
     </message>
     <message>
         <source>松开按键重置所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>떼서 리셋되는 트래블(mm)</translation>
     </message>
 </context>
 <context>

@@ -478,100 +478,100 @@
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Ход</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Мёртвые зоны</translation>
     </message>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип свитча</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation type="unfinished"></translation>
+        <translation>Стабилизация</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Тесты</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрано клавиш</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation type="unfinished"></translation>
+        <translation>Gaote</translation>
     </message>
     <message>
         <source>磁玉</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade</translation>
     </message>
     <message>
         <source>磁玉pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
     <message>
         <source>天王</source>
-        <translation type="unfinished"></translation>
+        <translation>Sky King</translation>
     </message>
     <message>
         <source>万磁王</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnet King</translation>
     </message>
     <message>
         <source>机械轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Механический</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaihua</translation>
     </message>
     <message>
         <source>星引力</source>
-        <translation type="unfinished"></translation>
+        <translation>Star Gravity</translation>
     </message>
     <message>
         <source>炫光</source>
-        <translation type="unfinished"></translation>
+        <translation>Dazzle</translation>
     </message>
     <message>
         <source>闪电</source>
-        <translation type="unfinished"></translation>
+        <translation>Lightning</translation>
     </message>
     <message>
         <source>星耀</source>
-        <translation type="unfinished"></translation>
+        <translation>Starshine</translation>
     </message>
     <message>
         <source>矮磁轴</source>
         <extracomment>冠泰轴</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Низкопрофильный</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Baize</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Свой</translation>
     </message>
     <message>
         <source>磁玉Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉Gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
 </context>
 <context>
@@ -612,26 +612,26 @@
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation type="unfinished"></translation>
+        <translation>Нажмите каждую клавишу по очереди плавно до упора и держите не меньше секунды, пока она не станет оранжевой (клавиша откалибрована). Не пропускайте ни одной; повторное нажатие не вредит. При беспроводном подключении откалиброванные клавиши не показываются. Не отключайте кабель во время калибровки.</translation>
     </message>
     <message>
         <source>行程校准操作指南</source>
-        <translation type="unfinished"></translation>
+        <translation>Как откалибровать ход</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>开始校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Начать калибровку</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing2</name>
     <message>
         <source>完成校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершить калибровку</translation>
     </message>
 </context>
 <context>
@@ -672,131 +672,131 @@
     <name>MagicDeadZonePage</name>
     <message>
         <source>当前选择按键数量:0</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрано клавиш: 0</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Мёртвые зоны</translation>
     </message>
     <message>
         <source>按键死区设定</source>
-        <translation type="unfinished"></translation>
+        <translation>Мёртвые зоны клавиш</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation type="unfinished"></translation>
+        <translation>Путь от нижней точки до начала отпускания называют «мёртвой зоной». Мёртвые зоны не дают магнитному свитчу пропадать из-за внешних помех. Нижнюю точку магнитного свитча можно настроить под себя; внутри мёртвой зоны клавиша не срабатывает.</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Применить</translation>
     </message>
     <message>
         <source>顶部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>Верхняя мёртвая зона</translation>
     </message>
     <message>
         <source>底部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>Нижняя мёртвая зона</translation>
     </message>
 </context>
 <context>
     <name>MagicStabPage</name>
     <message>
         <source>0%(关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>0% (выкл.)</translation>
     </message>
     <message>
         <source>已开启</source>
-        <translation type="unfinished"></translation>
+        <translation>Вкл.</translation>
     </message>
     <message>
         <source>已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Выкл.</translation>
     </message>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
-        <translation type="unfinished"></translation>
+        <translation>RT Stab (стабилизация Rapid Trigger)</translation>
     </message>
     <message>
         <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
-        <translation type="unfinished"></translation>
+        <translation>С включённым RT Stab клавиатура стабилизирует нижнюю часть хода. Чем выше уровень, тем стабильнее клавиши, но задержка немного растёт.</translation>
     </message>
     <message>
         <source>防误触模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Защита от ложных нажатий</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
-        <translation type="unfinished"></translation>
+        <translation>На самых чувствительных настройках тряска стола или допуск свитча до 0,1 мм могут вызвать ложное срабатывание. Если включено, клавиатура компенсирует эту разницу внизу хода и работает стабильнее.</translation>
     </message>
     <message>
         <source>(已关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>(выкл.)</translation>
     </message>
 </context>
 <context>
     <name>MagicSwitchPage</name>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип свитча</translation>
     </message>
     <message>
         <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
-        <translation type="unfinished"></translation>
+        <translation>После замены свитчей выберите тип ниже, затем щёлкните клавиши с ними: каждая клавиша настраивается сразу и показывает цвет своего типа свитча.</translation>
     </message>
 </context>
 <context>
     <name>MagicTestPage</name>
     <message>
         <source>行程测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Тест хода</translation>
     </message>
     <message>
         <source>按键测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Тест клавиш</translation>
     </message>
     <message>
         <source>输入值</source>
-        <translation type="unfinished"></translation>
+        <translation>Полученные клавиши</translation>
     </message>
 </context>
 <context>
     <name>MagicTravelPage</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Ход</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Применить</translation>
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>Нажатие и отпускание отдельно:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapid Trigger на весь ход (RT)</translation>
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。</source>
-        <translation type="unfinished"></translation>
+        <translation>Вкл.: Rapid Trigger завершается, только когда клавиша отпущена полностью.</translation>
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation type="unfinished"></translation>
+        <translation>Выкл.: Rapid Trigger завершается, когда клавиша поднимается выше точки срабатывания.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторное нажатие и сброс отдельно</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ход до повторного срабатывания при нажатии (мм)</translation>
     </message>
     <message>
         <source>松开按键重置所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ход до сброса при отпускании (мм)</translation>
     </message>
 </context>
 <context>

@@ -478,100 +478,100 @@
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangentväg</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Dödzoner</translation>
     </message>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Switchtyp</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation type="unfinished"></translation>
+        <translation>Stabilisering</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Tester</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
-        <translation type="unfinished"></translation>
+        <translation>Valda tangenter</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation type="unfinished"></translation>
+        <translation>Gaote</translation>
     </message>
     <message>
         <source>磁玉</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade</translation>
     </message>
     <message>
         <source>磁玉pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
     <message>
         <source>天王</source>
-        <translation type="unfinished"></translation>
+        <translation>Sky King</translation>
     </message>
     <message>
         <source>万磁王</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnet King</translation>
     </message>
     <message>
         <source>机械轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Mekanisk</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaihua</translation>
     </message>
     <message>
         <source>星引力</source>
-        <translation type="unfinished"></translation>
+        <translation>Star Gravity</translation>
     </message>
     <message>
         <source>炫光</source>
-        <translation type="unfinished"></translation>
+        <translation>Dazzle</translation>
     </message>
     <message>
         <source>闪电</source>
-        <translation type="unfinished"></translation>
+        <translation>Lightning</translation>
     </message>
     <message>
         <source>星耀</source>
-        <translation type="unfinished"></translation>
+        <translation>Starshine</translation>
     </message>
     <message>
         <source>矮磁轴</source>
         <extracomment>冠泰轴</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Låg profil</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
-        <translation type="unfinished"></translation>
+        <translation>Baize</translation>
     </message>
     <message>
         <source>自定义</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassad</translation>
     </message>
     <message>
         <source>磁玉Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Pro</translation>
     </message>
     <message>
         <source>磁玉Gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Jade Gaming</translation>
     </message>
 </context>
 <context>
@@ -612,26 +612,26 @@
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation type="unfinished"></translation>
+        <translation>Tryck ned varje tangent i tur och ordning, mjukt hela vägen, och håll den nere minst en sekund tills den blir orange (tangenten är kalibrerad). Hoppa inte över någon; att trycka igen gör inget. Via trådlös anslutning visas inte de kalibrerade tangenterna. Dra inte ur kabeln under kalibreringen.</translation>
     </message>
     <message>
         <source>行程校准操作指南</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide för kalibrering av tangentväg</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Avbryt</translation>
     </message>
     <message>
         <source>开始校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Starta kalibrering</translation>
     </message>
 </context>
 <context>
     <name>LinearFixing2</name>
     <message>
         <source>完成校准</source>
-        <translation type="unfinished"></translation>
+        <translation>Slutför kalibrering</translation>
     </message>
 </context>
 <context>
@@ -672,131 +672,131 @@
     <name>MagicDeadZonePage</name>
     <message>
         <source>当前选择按键数量:0</source>
-        <translation type="unfinished"></translation>
+        <translation>Valda tangenter: 0</translation>
     </message>
     <message>
         <source>死区设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Dödzoner</translation>
     </message>
     <message>
         <source>按键死区设定</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangenternas dödzoner</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation type="unfinished"></translation>
+        <translation>Vägen mellan bottenläget och början av ett släpp kallas ”dödzon”. Dödzoner hindrar en magnetisk switch från att tappa kontakt av yttre störningar. En magnetisk switchs botten kan ställas in efter tycke; inom en dödzon utlöser tangenten inte.</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkställ</translation>
     </message>
     <message>
         <source>顶部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>Övre dödzon</translation>
     </message>
     <message>
         <source>底部死区</source>
-        <translation type="unfinished"></translation>
+        <translation>Nedre dödzon</translation>
     </message>
 </context>
 <context>
     <name>MagicStabPage</name>
     <message>
         <source>0%(关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 % (av)</translation>
     </message>
     <message>
         <source>已开启</source>
-        <translation type="unfinished"></translation>
+        <translation>På</translation>
     </message>
     <message>
         <source>已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Av</translation>
     </message>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
-        <translation type="unfinished"></translation>
+        <translation>RT Stab (stabilisering av rapid trigger)</translation>
     </message>
     <message>
         <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
-        <translation type="unfinished"></translation>
+        <translation>Med RT Stab på stabiliserar tangentbordet botten av tangentvägen. Ju högre nivå, desto stadigare tangenter, till priset av något högre latens.</translation>
     </message>
     <message>
         <source>防误触模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Skydd mot feltryck</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
-        <translation type="unfinished"></translation>
+        <translation>Vid de känsligaste inställningarna kan ett skakande bord eller en switchtolerans på upp till 0,1 mm utlösa en tangent av misstag. När det är på jämnar tangentbordet ut skillnaden i botten av vägen och blir stadigare.</translation>
     </message>
     <message>
         <source>(已关闭)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Av)</translation>
     </message>
 </context>
 <context>
     <name>MagicSwitchPage</name>
     <message>
         <source>轴体设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Switchtyp</translation>
     </message>
     <message>
         <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
-        <translation type="unfinished"></translation>
+        <translation>Efter switchbyte: välj en typ nedan och klicka sedan på tangenterna som har den. Varje tangent ställs in direkt och visar färgen för sin switchtyp.</translation>
     </message>
 </context>
 <context>
     <name>MagicTestPage</name>
     <message>
         <source>行程测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Vägtest</translation>
     </message>
     <message>
         <source>按键测试</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangenttest</translation>
     </message>
     <message>
         <source>输入值</source>
-        <translation type="unfinished"></translation>
+        <translation>Mottagna tangenter</translation>
     </message>
 </context>
 <context>
     <name>MagicTravelPage</name>
     <message>
         <source>行程设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangentväg</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkställ</translation>
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation type="unfinished"></translation>
+        <translation>Separat tryck och släpp:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapid trigger över hela vägen (RT)</translation>
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。</source>
-        <translation type="unfinished"></translation>
+        <translation>På: rapid trigger slutar först när tangenten är helt släppt.</translation>
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation type="unfinished"></translation>
+        <translation>Av: rapid trigger slutar när tangenten stiger förbi sin aktiveringspunkt.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation type="unfinished"></translation>
+        <translation>Separat nytt tryck och återställning</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Väg för att utlösa igen vid tryck (mm)</translation>
     </message>
     <message>
         <source>松开按键重置所需的行程(mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Väg för att återställa vid släpp (mm)</translation>
     </message>
 </context>
 <context>
