@@ -58,7 +58,7 @@ private slots:
         QTest::addColumn<QString>("devices"); // what the window's "我的设备" reads as
 
         QTest::newRow("first entry shipped") << QStringList{"de-DE", "en-US"} << "ORBEStudio_de_DE"
-                                             << "我的设备";
+                                             << "Meine Geräte";
         QTest::newRow("first not shipped, second is")
             << QStringList{"fr-CA", "en-US"} << "ORBEStudio_en_US"
             << "My devices";
@@ -66,7 +66,7 @@ private slots:
             << QStringList{"en"} << "ORBEStudio_en_US"
             << "My devices";
         QTest::newRow("script tag") << QStringList{"zh-Hant-TW"} << "ORBEStudio_zh_TW"
-                                    << "我的设备";
+                                    << "我的裝置";
         QTest::newRow("nothing shipped")
             << QStringList{"es-ES", "pt-BR", "en-GB"} << QString() << "我的设备";
         QTest::newRow("empty list") << QStringList{} << QString() << "我的设备";
