@@ -772,7 +772,7 @@
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Drücken und Loslassen getrennt:</translation>
+        <translation>Drücken/Lösen getrennt:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>

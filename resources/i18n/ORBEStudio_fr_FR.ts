@@ -772,7 +772,7 @@
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Appui et relâchement séparés :</translation>
+        <translation>Appui/relâche séparés :</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -780,11 +780,11 @@
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。</source>
-        <translation>Activé : le Rapid Trigger ne s’arrête que lorsque la touche est entièrement relâchée.</translation>
+        <translation>Activé : le Rapid Trigger s’arrête quand la touche est relâchée.</translation>
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation>Désactivé : le Rapid Trigger s’arrête dès que la touche remonte au-dessus de son point d’activation.</translation>
+        <translation>Désactivé : il s’arrête au-dessus du point d’activation.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>

@@ -772,7 +772,7 @@
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Pressione e rilascio separati:</translation>
+        <translation>Premi/rilascia separati:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -780,11 +780,11 @@
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。</source>
-        <translation>Attivo: il rapid trigger termina solo quando il tasto è rilasciato del tutto.</translation>
+        <translation>Attivo: l’RT termina solo a tasto rilasciato del tutto.</translation>
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation>Spento: il rapid trigger termina quando il tasto risale oltre il punto di attivazione.</translation>
+        <translation>Spento: l’RT termina sopra il punto di attivazione.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>

@@ -772,7 +772,7 @@
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Premir e soltar em separado:</translation>
+        <translation>Premir/soltar separados:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -780,11 +780,11 @@
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。</source>
-        <translation>Ligado: o Rapid Trigger só termina quando a tecla é totalmente solta.</translation>
+        <translation>Ligado: o RT só termina com a tecla totalmente solta.</translation>
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation>Desligado: o Rapid Trigger termina quando a tecla sobe acima do ponto de acionamento.</translation>
+        <translation>Desligado: o RT termina acima do ponto de acionamento.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>

@@ -772,7 +772,7 @@
     </message>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Нажатие и отпускание отдельно:</translation>
+        <translation>Раздельные точки:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -780,11 +780,11 @@
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。</source>
-        <translation>Вкл.: Rapid Trigger завершается, только когда клавиша отпущена полностью.</translation>
+        <translation>Вкл.: RT завершается только при полном отпускании.</translation>
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation>Выкл.: Rapid Trigger завершается, когда клавиша поднимается выше точки срабатывания.</translation>
+        <translation>Выкл.: RT завершается выше точки срабатывания.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>

@@ -784,7 +784,7 @@
     </message>
     <message>
         <source>禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation>Av: rapid trigger slutar när tangenten stiger förbi sin aktiveringspunkt.</translation>
+        <translation>Av: rapid trigger slutar ovanför aktiveringspunkten.</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
