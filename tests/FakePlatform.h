@@ -25,6 +25,7 @@ public:
     bool processesStart = true;              // what startProcess answers
     QHash<QString, WindowId> windowsByTitle; // what findWindow answers
     QHash<WindowId, QRect> windowRects;      // what windowRect answers
+    bool embeds = true;                      // what canEmbedWindows answers
 
     // The one fake of a test program, which the windows under test are given.
     static FakePlatform& shared();
@@ -74,6 +75,7 @@ public:
     {
         record("setWindowParent", {hex(window), hex(parent)});
     }
+    bool canEmbedWindows() override { return embeds; }
     void setWindowStyle(WindowId window, quint32 style, quint32 exStyle) override
     {
         record("setWindowStyle", {hex(window), hex(style), hex(exStyle)});

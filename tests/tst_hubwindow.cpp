@@ -423,7 +423,11 @@ private slots:
         QCOMPARE(hub.page(), int(MainWindow::CardPage)); // the click waits 50 ms
         if (!native) {
             hub.runUntil([] { return false; }, 1000);
-            QCOMPARE(hub.page(), int(MainWindow::CardPage));
+            // No RY driver beside the test programs: the page says so at once.
+            QCOMPARE(hub.page(), int(MainWindow::SiblingPage));
+            auto* status = hub.window->findChild<QLabel*>("labelSiblingStatus");
+            QVERIFY(status->isVisibleTo(hub.window.get()));
+            QVERIFY(status->text().contains(hub.record(path).displayName));
             QVERIFY(!hub.link()->isConnected());
             QVERIFY(keyboard->model().receivedFrames().isEmpty());
             return;

@@ -21,6 +21,7 @@
 #include "OrbeDeviceEnum.h"
 #include "Platform.h"
 #include "ScanDebounce.h"
+#include "SiblingHost.h"
 #include "SingleInstance.h"
 
 #include <QAction>
@@ -56,7 +57,6 @@ constexpr double kArrowOpacity = 0.6;
 // The window's timers.
 constexpr int kSavedLanguageDelayMs = 10;
 constexpr int kEscapeWatchMs = 30;
-constexpr int kReturnWatchMs = 100;
 constexpr int kEmptyListWatchMs = 100;
 constexpr int kRaiseWatchMs = 200;
 constexpr int kFirstScanMs = 500;
@@ -86,10 +86,6 @@ const std::array<SharedValue, 10> kStartValues{{
     {"VendorDevicePath", QString()},
     {"ByDeviceUuid", QString()},
 }};
-
-// The native keyboards of the cloud family; any other member goes to its sibling driver.
-constexpr std::array<quint64, 2> kNativeIds{0x0AF7, 0x0EC3};
-const char* const kNativeNameMark = "7090";
 
 QString instanceKey(bool tarnwickBuild)
 {
@@ -182,6 +178,9 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Platform& system, Cl
     connect(hid.get(), &HidBackend::devicePluggined, debounce, &ScanDebounce::onDevicePluggined);
     connect(hid.get(), &HidBackend::devicePluggined, link.get(),
             &DialogDeviceConnect::onDevicePluggined);
+
+    // 14: the sibling drivers.
+    createSiblingHost(dir);
 
     // 15-16: tray, counts, the first page.
     createTray();
@@ -324,7 +323,9 @@ void MainWindow::startTimers()
         return timer;
     };
     escapeTimer = repeating(kEscapeWatchMs, &MainWindow::watchEscape);
-    returnTimer = repeating(kReturnWatchMs, &MainWindow::watchReturn);
+    // Armed while something may ask for the way back (armReturnWatch); it stops itself.
+    returnTimer = clock->createTimer([this] { watchReturn(); }, false);
+    if (hasReturnToWatch()) armReturnWatch();
     emptyListTimer->start(kEmptyListWatchMs);
     raiseTimer->start(kRaiseWatchMs);
     lockTimer = repeating(kLockWatchMs, &MainWindow::watchLock);
@@ -353,46 +354,21 @@ void MainWindow::watchEscape()
 {
     if (platform.keyState(Platform::KeyEscape) >= 0 || keyTesting) return;
     qCDebug(lcApp) << "OrbeReturn 0";
-    platform.setUserValue(QStringLiteral("OrbeReturn"), 1);
+    askReturn();
     setPage(CardPage);
 }
 
 void MainWindow::watchLock()
 {
     if (platform.isSessionLocked() && platform.millisecondsSinceInput() >= kLockedIdleMs)
-        platform.setUserValue(QStringLiteral("OrbeReturn"), 1);
-}
-
-void MainWindow::watchReturn()
-{
-    const bool asked = platform.userValue(QStringLiteral("OrbeReturn")).toInt() != 0 ||
-                       platform.userValue(QStringLiteral("TarnwickReturn")).toInt() != 0;
-    if (!asked || !returnArmed) return;
-    qCDebug(lcApp) << "Action OrbeReturn";
-    platform.setUserValue(QStringLiteral("OrbeReturn"), 0);
-    platform.setUserValue(QStringLiteral("TarnwickReturn"), 0);
-    returnToCards();
-    clock->singleShot(200, this, [this] {
-        show();
-        raise();
-    });
-}
-
-void MainWindow::returnToCards()
-{
-    setPage(CardPage);
-    floatReturn->hide();
-    hostedFamily = -1;
-    hostedDeviceId = 0;
-    hostedDevicePath.clear();
-    currentDevicePath.clear();
-    registry->setCurrentDevice(QString());
-    registry->setHostedWindow(false);
+        askReturn();
 }
 
 void MainWindow::setPage(int index)
 {
     ui.stackedWidget->setCurrentIndex(index);
+    // Away from the cards something may ask for the way back.
+    if (index != CardPage) armReturnWatch();
 }
 
 void MainWindow::rescan()
@@ -469,38 +445,6 @@ void MainWindow::setWindowMode(bool narrow)
     }
     setFixedSize(size);
     move(origin);
-}
-
-bool MainWindow::isNative(const DeviceEnumInfo& device) const
-{
-    return std::find(kNativeIds.begin(), kNativeIds.end(), device.deviceId) != kNativeIds.end() ||
-           device.displayName.contains(QLatin1String(kNativeNameMark));
-}
-
-void MainWindow::openDevice(const QString& devicePath, const QString& deviceImage)
-{
-    const auto found = std::find_if(devices.cbegin(), devices.cend(),
-                                    [&](const auto& d) { return d.devicePath == devicePath; });
-    if (devicePath.isEmpty() || found == devices.cend()) return;
-    const DeviceEnumInfo device = *found;
-    hostedFamily = device.family;
-    hostedDeviceId = device.deviceId;
-    hostedDevicePath = device.devicePath;
-    langMenu->hide();
-    language.setHostedFamily(hostedFamily);
-    if (device.family != DeviceEnumInfo::CloudFamily || !isNative(device)) {
-        qCDebug(lcApp) << device.displayName << "is served by a sibling driver (family"
-                       << device.family << ")";
-        return;
-    }
-    connection()->DoConnectDevice(device.vendorId, device.productId,
-                                  device.connectionType == DeviceEnumInfo::Bluetooth,
-                                  device.vendorPath, device.devicePath);
-    setPage(DevicePage);
-    ui.frameHold->setDevice(device, deviceImage, device.displayName);
-    // Losing this device brings the cards back.
-    currentDevicePath = device.devicePath;
-    registry->setCurrentDevice(device.devicePath);
 }
 
 void MainWindow::applyLanguage(int index, const QString& text)

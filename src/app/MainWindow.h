@@ -4,6 +4,7 @@
 #include "LanguageSwitch.h"
 #include "MainWindowForm.h"
 #include "ModuleGenKeymapping.h"
+#include "Platform.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -23,12 +24,13 @@ class ModuleMacroManager;
 class ModuleLangMenu;
 class ModuleMacroManager;
 class OrbeDeviceEnum;
-class Platform;
 class QAction;
+class QLabel;
 class QDialog;
 class QSystemTrayIcon;
 class QTranslator;
 class ScanDebounce;
+class SiblingHost;
 class SingleInstance;
 struct DeviceEnumInfo;
 
@@ -90,10 +92,17 @@ public:
     void updateCounts();
     // 1280 by 900 when narrow, else 1520 by 900, centred on the first screen.
     void setWindowMode(bool narrow);
-    // A click on a card: a native keyboard opens in the device page.
+    // A click on a card: a native keyboard opens in the device page, any other is handed to
+    // its sibling driver, whose window is shown 100 ms later.
     void openDevice(const QString& devicePath, const QString& deviceImage);
-    // Leaves whatever page is shown for the cards when the return flag is up.
+    // Shows the window of the sibling the device was handed to, inside the hub or as its own;
+    // without one, says in the page why it waits.
+    void showSiblingWindow();
+    // Leaves whatever page is shown for the cards when the return flag is up. Runs while
+    // something may ask for it and stops itself after.
     void watchReturn();
+    bool isWatchingReturn() const;
+    SiblingHost* siblingHost() const { return siblings.get(); }
 
 protected:
     bool event(QEvent* event) override;
@@ -125,9 +134,16 @@ private:
     void paintFloat(QWidget* target);
     void countLogoClick();
     void returnToCards();
+    void createSiblingHost(const QString& dir);
+    void showTopLevelSibling(Platform::WindowId window);
+    void showEmbeddedSibling(Platform::WindowId window);
+    void showSiblingStatus(const QString& text);
+    // Writes "OrbeReturn" 1 and makes sure the return watch sees it.
+    void askReturn();
+    void armReturnWatch();
+    bool hasReturnToWatch() const;
     void setPage(int index);
     void updateScanGate();
-    bool isNative(const DeviceEnumInfo& device) const;
     // The card of a position, made on first use; null past the pool.
     FrameDeviceShow* acquireCard(int index);
     QString imagesDir() const;
@@ -146,6 +162,7 @@ private:
     std::unique_ptr<AudioCapture> capture; // read by the connection's music rounds
     std::unique_ptr<DialogDeviceConnect> link;
     std::unique_ptr<SingleInstance> instanceGuard;
+    std::unique_ptr<SiblingHost> siblings;
 
     MainWindowForm ui;
     ModuleLangMenu* langMenu = nullptr;
@@ -173,6 +190,8 @@ private:
     QAction* actionHide = nullptr;
     QAction* actionQuit = nullptr;
     bool returnArmed = true;
+    bool siblingOnTop = false; // a top-level sibling stands in for the hidden hub
+    QLabel* labelSiblingStatus = nullptr;
     bool tearingDown = false; // the widgets the filter looks at are going
     bool cardsWereEmpty = true;
     int logoClicks = 0;

@@ -10,6 +10,7 @@
 #include "ModuleLangMenu.h"
 #include "OrbeDeviceEnum.h"
 #include "Platform.h"
+#include "SiblingHost.h"
 
 #include <QCloseEvent>
 #include <QCursor>
@@ -45,11 +46,6 @@ constexpr int kWindowModeDelayMs = 100;
 constexpr int kSplashTextHeight = 100;
 constexpr int kSplashFontPoints = 22;
 
-// Processes of the sibling drivers ended on a confirmed close; only this list has "OrbeBox.exe".
-constexpr std::array<const char*, 5> kProcessesAtClose{
-    "Orbe-WS.exe", "Orbe-BY.exe", "OrbeBox.exe", "Orbe-Gaming-Bub.exe", "OrbeCloudDriver.exe",
-};
-
 int clampedRound(double value)
 {
     const double rounded = std::round(value); // half away from zero
@@ -73,6 +69,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         } else if (watched == floatReturn) {
             floatReturn->hide();
             setPage(CardPage);
+            siblings->hideForReturnButton();
             clock->singleShot(kWindowModeDelayMs, this, [this] { setWindowMode(true); });
         }
         ui.scrollArea->update();
@@ -169,7 +166,7 @@ bool MainWindow::event(QEvent* event)
     case QEvent::Show:
         raise();
         activateWindow();
-        if (trayHidden) platform.setUserValue(QStringLiteral("OrbeReturn"), 1);
+        if (trayHidden) askReturn();
         trayHidden = false;
         updateScanGate();
         break;
@@ -205,7 +202,8 @@ void MainWindow::countLogoClick()
     if (logoClicks < 2 || platform.keyState(Platform::KeyControl) >= 0 ||
         platform.keyState(Platform::KeyD) >= 0)
         return;
-    if (!engineeringConsole) engineeringConsole = new DialogDeviceConsole(connection(), this);
+    if (!engineeringConsole)
+        engineeringConsole = new DialogDeviceConsole(connection(), platform, this);
     engineeringConsole->show();
     engineeringConsole->raise();
 }
@@ -289,11 +287,11 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    for (const char* name : kProcessesAtClose)
-        platform.endProcess(QLatin1String(name));
+    siblings->endAll();
     enumThread->stop();
     floatReturn->hide();
     if (trayIcon) trayIcon->hide();
+    siblings->postCloseToAll();
     QCoreApplication::exit(0);
     event->accept();
 }

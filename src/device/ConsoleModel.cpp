@@ -33,6 +33,18 @@ void ConsoleModel::setCommandLine(const QString& text)
     emit commandLineChanged(text);
 }
 
+void ConsoleModel::setVidText(const QString& text)
+{
+    lineVid = text;
+    emit idsChanged();
+}
+
+void ConsoleModel::setPidText(const QString& text)
+{
+    linePid = text;
+    emit idsChanged();
+}
+
 void ConsoleModel::setPidList(const QStringList& pids)
 {
     comboPids = pids;
@@ -46,6 +58,7 @@ void ConsoleModel::selectPid(const QString& pidText)
 {
     comboIndex = comboPids.indexOf(pidText);
     linePid = pidText;
+    emit idsChanged();
 }
 
 void ConsoleModel::setVersion(quint16 version, quint32 deviceId)
@@ -84,8 +97,12 @@ void ConsoleModel::log(const QByteArray& bytes, bool lineEnd)
     qCDebug(lcDevice).noquote() << text;
     if (logClearPending) {
         logClearPending = false;
+        logKept.clear();
         emit logCleared();
     }
+    logKept << text;
+    if (lineEnd) logKept << QString();
+    if (logKept.size() > kLogKeptLines) logKept.remove(0, logKept.size() - kLogKeptLines);
     emit logLine(text, lineEnd);
     logClearTimer->start(kLogClearMs);
 }

@@ -34,8 +34,8 @@ public:
 
     QString vidText() const { return lineVid; }
     QString pidText() const { return linePid; }
-    void setVidText(const QString& text) { lineVid = text; }
-    void setPidText(const QString& text) { linePid = text; }
+    void setVidText(const QString& text);
+    void setPidText(const QString& text);
     QString commandLine() const { return lineCommand; }
     void setCommandLine(const QString& text);
     QStringList pidList() const { return comboPids; }
@@ -59,6 +59,10 @@ public:
     // The log form of bytes: upper-case hex, an extra blank between groups of four bytes
     // counted from the end.
     static QString logText(const QByteArray& bytes);
+    // The log as it stands since it was last cleared (an empty string for a line end), so that
+    // a console opened late shows it; the oldest lines go past kLogKeptLines.
+    QStringList logLines() const { return logKept; }
+    static constexpr int kLogKeptLines = 2000;
 
 signals:
     void logLine(const QString& text, bool lineEnd);
@@ -67,6 +71,7 @@ signals:
     void versionTextChanged(const QString& text);
     void commandLineChanged(const QString& text);
     void pidListChanged();
+    void idsChanged();
     void rowChanged(int row);
 
 private:
@@ -74,6 +79,7 @@ private:
     std::unique_ptr<ClockTimer> logClearTimer;
     bool logClearPending = true;
     ConsoleRows consoleRows;
+    QStringList logKept;
     QString lineVid;
     QString linePid;
     QString lineCommand = QLatin1String(kDefaultCommandLine);

@@ -34,6 +34,10 @@ DialogDeviceConnect::DialogDeviceConnect(HidBackend* hid, Clock* clock,
     music = std::make_unique<MusicTimer>(parts);
 
     data.restoreDefaultMatrices();
+    // A changed cell puts its row into the command line, whoever changed it: the dispatch
+    // showing a read reply, an operation, or a hand in the console.
+    connect(consoleModel.get(), &ConsoleModel::rowChanged, this,
+            [this](int row) { settings->BuildRowCommand(row, false); });
     link->setHooks({
         .reply = [this](const QByteArray& reply) { dispatch->take(reply); },
         .input = [this](const QByteArray& report) { magnetism->takeInputReport(report); },
@@ -101,6 +105,11 @@ void DialogDeviceConnect::selectPid(const QString& pidText)
 void DialogDeviceConnect::BuildRowCommand(int row, bool write)
 {
     settings->BuildRowCommand(row, write);
+}
+
+QStringList DialogDeviceConnect::SaveMatrix()
+{
+    return keyOps->SaveMatrix();
 }
 
 void DialogDeviceConnect::onDevicePluggined()

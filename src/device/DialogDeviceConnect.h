@@ -121,6 +121,9 @@ public:
     void selectPid(const QString& pidText); // a product id chosen in the list by hand
     // Builds the row's eight bytes into the command line and, with write, sends them.
     void BuildRowCommand(int row, bool write);
+    // "Save Matrix": the connected keyboard's layer-0 matrix becomes the default one; returns the
+    // lines it printed.
+    QStringList SaveMatrix();
     // What the console shows.
     ConsoleModel& console() { return *consoleModel; }
     const ConsoleModel& console() const { return *consoleModel; }

@@ -1,8 +1,10 @@
 #include "KeyOps.h"
 
 #include "CommandLayouts.h"
+#include "DefaultKeyMaps.h"
 #include "DeviceCache.h"
 #include "DeviceLink.h"
+#include "DeviceLog.h"
 #include "DialogDeviceConnect.h"
 #include "KeyEntry.h"
 #include "KeyNameTable.h"
@@ -105,4 +107,21 @@ void KeyOps::GetKeyDisplay(QStringList& out, quint8 keyCode) const
         p.cache.keyEntry(e, position, layer);
         out.append(p.keys.KeyEntryText(KeyEntry(e[0], e[1], e[2], e[3]), false));
     }
+}
+
+QStringList KeyOps::SaveMatrix()
+{
+    DefaultKeyMaps::SetDefaultKeyMap(p.cache.keyMatrix[0]);
+    const QByteArray& saved = DefaultKeyMaps::DefaultKeyMap();
+    QStringList lines;
+    for (int i = 0; i < DefaultKeyMaps::kPositions; ++i) {
+        const auto at = [&](int b) { return quint8(saved.at(i * DefaultKeyMaps::kEntrySize + b)); };
+        // Big-endian in the comment, for reading; the wire stays little-endian.
+        const quint32 word =
+            quint32(at(0)) << 24 | quint32(at(1)) << 16 | quint32(at(2)) << 8 | quint32(at(3));
+        lines << QString::asprintf("%3d,%3d,%3d,%3d,  // %3d  0x%08X", at(0), at(1), at(2), at(3),
+                                   i, word);
+        qCInfo(lcDevice).noquote() << lines.last();
+    }
+    return lines;
 }

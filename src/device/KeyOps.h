@@ -17,6 +17,9 @@ public:
     void DoSetFnCode(quint8 keyCode, bool enabled);
     void DoResetKey(quint8 keyCode);
     void GetKeyDisplay(QStringList& out, quint8 keyCode) const;
+    // The console's "Save Matrix": slot 0 of the key matrix becomes the default key matrix, and
+    // its 128 entries are printed as source lines to paste in as a new default table.
+    QStringList SaveMatrix();
 
 private:
     DeviceParts p;

@@ -26,8 +26,7 @@ LinuxPlatform::LinuxPlatform(const QString& organisation) : organisation(organis
 LinuxPlatform::~LinuxPlatform()
 {
     // The process-wide platform can outlive the application object; a window must not.
-    if (qGuiApp)
-        qDeleteAll(foreignWindows);
+    if (qGuiApp) qDeleteAll(foreignWindows);
 }
 
 void LinuxPlatform::tellOnce(const char* what)
@@ -178,6 +177,12 @@ void LinuxPlatform::setWindowParent(WindowId window, WindowId parent)
     QWindow* child = windowOf(window);
     if (!child) return;
     child->setParent(parent ? windowOf(parent) : nullptr);
+}
+
+bool LinuxPlatform::canEmbedWindows()
+{
+    // Qt lends another program's window (QWindow::fromWinId) on X11 alone.
+    return X11Windows::available();
 }
 
 void LinuxPlatform::setWindowStyle(WindowId, quint32, quint32)

@@ -41,6 +41,7 @@ public:
 
     WindowId findWindow(const QString& title, const QString& className) override;
     void setWindowParent(WindowId window, WindowId parent) override;
+    bool canEmbedWindows() override;
     void setWindowStyle(WindowId window, quint32 style, quint32 exStyle) override;
     void showWindow(WindowId window) override;
     void hideWindow(WindowId window) override;

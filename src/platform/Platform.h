@@ -101,6 +101,8 @@ public:
     // The top-level window with this title (and class, when not empty); 0 when there is none.
     virtual WindowId findWindow(const QString& title, const QString& className) = 0;
     virtual void setWindowParent(WindowId window, WindowId parent) = 0;
+    // Whether setWindowParent can put another program's window into one of ours here.
+    virtual bool canEmbedWindows() = 0;
     // Replaces the style and extended style words (GWL_STYLE, GWL_EXSTYLE).
     virtual void setWindowStyle(WindowId window, quint32 style, quint32 exStyle) = 0;
     virtual void showWindow(WindowId window) = 0;

@@ -32,6 +32,7 @@ public:
 
     WindowId findWindow(const QString& title, const QString& className) override;
     void setWindowParent(WindowId window, WindowId parent) override;
+    bool canEmbedWindows() override { return true; }
     void setWindowStyle(WindowId window, quint32 style, quint32 exStyle) override;
     void showWindow(WindowId window) override;
     void hideWindow(WindowId window) override;
