@@ -221,6 +221,7 @@ MainWindow::~MainWindow()
     tearingDown = true;
     enumThread.reset();
     disconnect(hid.get(), nullptr, this, nullptr);
+    siblings->releaseEmbedded();
     delete takeCentralWidget();
     poller.reset();
     registry.reset();

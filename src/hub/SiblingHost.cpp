@@ -235,3 +235,10 @@ void SiblingHost::postCloseToAll()
     for (WindowId w : windows)
         if (w) platform.postCloseMessage(w);
 }
+
+void SiblingHost::releaseEmbedded()
+{
+    for (int slot = 0; slot < int(kSiblings.size()); ++slot)
+        if (windows[std::size_t(slot)] && showsEmbedded(slot))
+            platform.setWindowParent(windows[std::size_t(slot)], 0);
+}

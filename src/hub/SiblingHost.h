@@ -90,6 +90,9 @@ public:
     // The hub closes: the sibling processes end, then the windows found are asked to close.
     void endAll();
     void postCloseToAll();
+    // The hub's frame is about to go: the windows in it go back to the desktop rather than
+    // being destroyed with it.
+    void releaseEmbedded();
 
     std::function<bool()> hubVisible; // asked by the watch's own timer
 

@@ -62,6 +62,7 @@ private:
 
     QString organisation;
     QPointer<KeyStateTracker> keys;
-    QHash<WindowId, QWindow*> foreignWindows; // owned
+    // Owned; a window we put into one of ours goes when ours goes, hence the guard.
+    QHash<WindowId, QPointer<QWindow>> foreignWindows;
     QSet<QByteArray> told;
 };

@@ -1,0 +1,90 @@
+// A stand-in for a sibling driver, for the hosting tests and the screenshots: a window with the
+// title the hub looks for (taken from the name it was started under), the device it was handed
+// as the per-user values tell it, and a button that asks the hub to come back ("OrbeReturn" 1).
+// With ORBE_STANDIN_PRESS_MS set it presses that button itself once it is shown with a device,
+// after that many milliseconds. ORBE_STANDIN_TEST_MODE puts its values where a test's are.
+
+#include "SiblingHost.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace {
+
+QString titleFor(const QString& programName)
+{
+    for (int slot = 0; slot < int(SiblingHost::kSiblings.size()); ++slot) {
+        const QString program = SiblingHost::nativeName(
+            QFileInfo(QLatin1String(SiblingHost::kSiblings[slot].program)).fileName());
+        if (program == programName) return QLatin1String(SiblingHost::kSiblings[slot].title);
+    }
+    return programName;
+}
+
+QSettings values()
+{
+    return QSettings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Orbe"));
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication app(argc, argv);
+    if (qEnvironmentVariableIsSet("ORBE_STANDIN_TEST_MODE"))
+        QStandardPaths::setTestModeEnabled(true);
+
+    QWidget window;
+    window.setWindowTitle(titleFor(QFileInfo(QString::fromLocal8Bit(argv[0])).fileName()));
+    window.resize(900, 600);
+    window.setStyleSheet(QStringLiteral(
+        "QWidget { background: #1E2233; color: #E8EAF2; font-size: 16px; }"
+        "QLabel#title { font-size: 28px; font-weight: bold; color: white; }"
+        "QPushButton { background: #6329B6; color: white; border: none; border-radius: 8px;"
+        " padding: 10px 24px; font-size: 16px; }"));
+    auto* layout = new QVBoxLayout(&window);
+    layout->setContentsMargins(48, 48, 48, 48);
+    auto* title = new QLabel(window.windowTitle(), &window);
+    title->setObjectName(QStringLiteral("title"));
+    auto* device = new QLabel(&window);
+    device->setWordWrap(true);
+    auto* back = new QPushButton(QStringLiteral("OrbeReturn"), &window);
+    layout->addWidget(title);
+    layout->addWidget(device, 1);
+    layout->addWidget(back, 0, Qt::AlignLeft);
+
+    QObject::connect(back, &QPushButton::clicked, [] {
+        QSettings settings = values();
+        settings.setValue(QStringLiteral("OrbeReturn"), 1);
+        settings.sync();
+    });
+
+    const int pressMs = qEnvironmentVariableIntValue("ORBE_STANDIN_PRESS_MS");
+    bool pressArmed = false;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        QSettings settings = values();
+        const QString path = settings.value(QStringLiteral("DevicePath")).toString();
+        device->setText(path.isEmpty()
+                            ? QStringLiteral("No device handed over yet.")
+                            : QStringLiteral("Device %1\n%2")
+                                  .arg(settings.value(QStringLiteral("DeviceId")).toInt(), 4, 16,
+                                       QLatin1Char('0'))
+                                  .arg(path));
+        const bool shown = window.windowHandle() && window.windowHandle()->isExposed();
+        if (pressMs > 0 && !pressArmed && shown && !path.isEmpty()) {
+            pressArmed = true;
+            QTimer::singleShot(pressMs, back, &QPushButton::click);
+        }
+    });
+    poll.start(100);
+    window.show();
+    return app.exec();
+}
