@@ -1,8 +1,9 @@
 // A stand-in for a sibling driver, for the hosting tests and the screenshots: a window with the
 // title the hub looks for (taken from the name it was started under), the device it was handed
 // as the per-user values tell it, and a button that asks the hub to come back ("OrbeReturn" 1).
-// With ORBE_STANDIN_PRESS_MS set it presses that button itself once it is shown with a device,
-// after that many milliseconds. ORBE_STANDIN_TEST_MODE puts its values where a test's are.
+// With ORBE_STANDIN_PRESS_MS set it presses that button itself once it is shown with a device
+// newly handed to it, after that many milliseconds. ORBE_STANDIN_TEST_MODE puts its values where a
+// test's are.
 
 #include "SiblingHost.h"
 
@@ -66,12 +67,20 @@ int main(int argc, char* argv[])
         settings.sync();
     });
 
+    // Like a real driver it acts on a change of the device it is handed, not on a value that
+    // was there before it started.
     const int pressMs = qEnvironmentVariableIntValue("ORBE_STANDIN_PRESS_MS");
+    QString lastPath;
+    bool polledOnce = false;
+    bool handedOver = false;
     bool pressArmed = false;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, [&] {
         QSettings settings = values();
         const QString path = settings.value(QStringLiteral("DevicePath")).toString();
+        if (path != lastPath && !path.isEmpty() && polledOnce) handedOver = true;
+        lastPath = path;
+        polledOnce = true;
         device->setText(path.isEmpty()
                             ? QStringLiteral("No device handed over yet.")
                             : QStringLiteral("Device %1\n%2")
@@ -79,7 +88,7 @@ int main(int argc, char* argv[])
                                        QLatin1Char('0'))
                                   .arg(path));
         const bool shown = window.windowHandle() && window.windowHandle()->isExposed();
-        if (pressMs > 0 && !pressArmed && shown && !path.isEmpty()) {
+        if (pressMs > 0 && !pressArmed && shown && handedOver) {
             pressArmed = true;
             QTimer::singleShot(pressMs, back, &QPushButton::click);
         }
