@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="zh_CN">
 <context>
+    <name>ConsoleTableModel</name>
+    <message>
+        <source>命令,数据长度,Byte0
+命令号(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>完成</source>
@@ -848,6 +863,14 @@
     <message>
         <source>点击设备进入设置</source>
         <translation>Klicke auf ein Gerät, um es einzurichten</translation>
+    </message>
+    <message>
+        <source>正在启动“%1”的驱动程序...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1”的驱动程序没有安装。请重新安装 ORBE 驱动程序后再试。</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="zh_CN">
 <context>
+    <name>ConsoleTableModel</name>
+    <message>
+        <source>命令,数据长度,Byte0
+命令号(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</source>
+        <translation>Command,Data length,Byte0
+Command (hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>完成</source>
@@ -848,6 +871,14 @@
     <message>
         <source>点击设备进入设置</source>
         <translation>Click a device to set it up</translation>
+    </message>
+    <message>
+        <source>正在启动“%1”的驱动程序...</source>
+        <translation>Starting the driver for “%1”...</translation>
+    </message>
+    <message>
+        <source>“%1”的驱动程序没有安装。请重新安装 ORBE 驱动程序后再试。</source>
+        <translation>The driver for “%1” is not installed. Reinstall the ORBE driver and try again.</translation>
     </message>
 </context>
 <context>
