@@ -8,9 +8,10 @@
 // its light page with a painting and the works kept from it (light.png); then, on the wired
 // keyboard, the magnetic page with travel applied (magnetic-travel.png), switch types painted
 // (magnetic-switches.png), the travel and key tests running (magnetic-test.png) and the
-// calibration part-way (calibration.png). orbe_hub_screenshots <folder>; not installed, for the
-// README. The hub runs on a copy of the files beside the program, so that the macros recorded
-// here stay out of the build's own.
+// calibration part-way (calibration.png); last the engineering console (console.png) and
+// the tests' stand-in sibling driver hosted in the hub (sibling.png, when it was built).
+// orbe_hub_screenshots <folder>; not installed, for the README. The hub runs on a copy of the
+// files beside the program, so that the macros recorded here stay out of the build's own.
 
 #include "AdvancedKeyShots.h"
 #include "AppStartup.h"
@@ -33,6 +34,7 @@
 #include "ModuleMacroManager.h"
 #include "Platform.h"
 #include "ScriptedInput.h"
+#include "SiblingShots.h"
 #include "SuperLabel.h"
 #include "VirtualHidBackend.h"
 
@@ -205,6 +207,8 @@ int main(int argc, char* argv[])
         return 1;
     }
     nameMacros(programDir.path());
+    const bool withSibling = SiblingShots::installStandIn(programDir.path());
+    if (!withSibling) QTextStream(stderr) << "no stand-in sibling built: no sibling.png\n";
 
     QTranslator appTranslator, qtBaseTranslator, qtTranslator;
     const std::unique_ptr<Platform> platform = Platform::create();
@@ -237,6 +241,8 @@ int main(int argc, char* argv[])
         Switches,
         Tests,
         Calibration,
+        Console,
+        Sibling,
         Done
     } step = Step::Cards;
     int waited = 0;
@@ -246,6 +252,7 @@ int main(int argc, char* argv[])
     int cardShot = 0;
     FrameMacro* macroPage = nullptr;
     DialogColorPicker* picker = nullptr;
+    DialogDeviceConsole* console = nullptr;
     int result = 1;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, [&] {
@@ -426,6 +433,26 @@ int main(int argc, char* argv[])
                     ? 0
                     : 1;
             MagneticShots::finishCalibration(window);
+            console = SiblingShots::openConsole(window, *platform);
+            step = Step::Console;
+            waited = 0;
+            return;
+        case Step::Console:
+            if (waited < 800) return; // the command's answer is in the log
+            if (!save(*console, out + QStringLiteral("/console.png"))) result = 1;
+            console->close();
+            if (!withSibling || !SiblingShots::openSibling(window)) {
+                step = Step::Done;
+                app.exit(result);
+                return;
+            }
+            step = Step::Sibling;
+            waited = 0;
+            return;
+        case Step::Sibling:
+            if (!SiblingShots::siblingShown(window) || waited < 2500) return;
+            if (!saveScreen(window, out + QStringLiteral("/sibling.png"))) result = 1;
+            SiblingShots::endStandIn(*platform);
             step = Step::Done;
             app.exit(result);
             return;

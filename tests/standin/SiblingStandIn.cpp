@@ -51,6 +51,7 @@ int main(int argc, char* argv[])
         "QPushButton { background: #6329B6; color: white; border: none; border-radius: 8px;"
         " padding: 10px 24px; font-size: 16px; }"));
     auto* layout = new QVBoxLayout(&window);
+    layout->setSpacing(24);
     layout->setContentsMargins(48, 48, 48, 48);
     auto* title = new QLabel(window.windowTitle(), &window);
     title->setObjectName(QStringLiteral("title"));
@@ -58,7 +59,7 @@ int main(int argc, char* argv[])
     device->setWordWrap(true);
     auto* back = new QPushButton(QStringLiteral("OrbeReturn"), &window);
     layout->addWidget(title);
-    layout->addWidget(device, 1);
+    layout->addWidget(device, 1, Qt::AlignTop);
     layout->addWidget(back, 0, Qt::AlignLeft);
 
     QObject::connect(back, &QPushButton::clicked, [] {
@@ -81,12 +82,17 @@ int main(int argc, char* argv[])
         if (path != lastPath && !path.isEmpty() && polledOnce) handedOver = true;
         lastPath = path;
         polledOnce = true;
-        device->setText(path.isEmpty()
+        // What each family's driver reads of the hand-over.
+        QStringList handed;
+        for (const char* key : {"DeviceId", "DevicePath", "VendorDevicePath", "OrbeDeviceIndex",
+                                "ByDeviceUuid", "ByLocale", "JmDevicePath", "JmLocale"}) {
+            const QString value = settings.value(QLatin1String(key)).toString();
+            if (!value.isEmpty() && value != QLatin1String("0"))
+                handed << QStringLiteral("%1: %2").arg(QLatin1String(key), value);
+        }
+        device->setText(handed.isEmpty()
                             ? QStringLiteral("No device handed over yet.")
-                            : QStringLiteral("Device %1\n%2")
-                                  .arg(settings.value(QStringLiteral("DeviceId")).toInt(), 4, 16,
-                                       QLatin1Char('0'))
-                                  .arg(path));
+                            : QStringLiteral("Handed over by the hub:\n\n") + handed.join(u'\n'));
         const bool shown = window.windowHandle() && window.windowHandle()->isExposed();
         if (pressMs > 0 && !pressArmed && shown && handedOver) {
             pressArmed = true;
