@@ -13,7 +13,15 @@ Option,Byte5
 R,Byte6
 G,Byte7
 B</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl,Datenlänge,Byte0
+Befehl (hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
     </message>
 </context>
 <context>
@@ -866,11 +874,11 @@ B</source>
     </message>
     <message>
         <source>正在启动“%1”的驱动程序...</source>
-        <translation type="unfinished"></translation>
+        <translation>Treiber für „%1“ wird gestartet...</translation>
     </message>
     <message>
         <source>“%1”的驱动程序没有安装。请重新安装 ORBE 驱动程序后再试。</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Treiber für „%1“ ist nicht installiert. Installiere den ORBE-Treiber neu und versuche es erneut.</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,15 @@ Option,Byte5
 R,Byte6
 G,Byte7
 B</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンド,データ長,Byte0
+コマンド番号(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
     </message>
 </context>
 <context>
@@ -866,11 +874,11 @@ B</source>
     </message>
     <message>
         <source>正在启动“%1”的驱动程序...</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」のドライバーを起動しています...</translation>
     </message>
     <message>
         <source>“%1”的驱动程序没有安装。请重新安装 ORBE 驱动程序后再试。</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」のドライバーがインストールされていません。ORBE ドライバーを再インストールしてから、もう一度お試しください。</translation>
     </message>
 </context>
 <context>

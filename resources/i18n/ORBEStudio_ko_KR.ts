@@ -13,7 +13,15 @@ Option,Byte5
 R,Byte6
 G,Byte7
 B</source>
-        <translation type="unfinished"></translation>
+        <translation>명령,데이터 길이,Byte0
+명령 번호(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
     </message>
 </context>
 <context>
@@ -866,11 +874,11 @@ B</source>
     </message>
     <message>
         <source>正在启动“%1”的驱动程序...</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” 드라이버를 시작하는 중...</translation>
     </message>
     <message>
         <source>“%1”的驱动程序没有安装。请重新安装 ORBE 驱动程序后再试。</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” 드라이버가 설치되어 있지 않습니다. ORBE 드라이버를 다시 설치한 후 다시 시도하세요.</translation>
     </message>
 </context>
 <context>

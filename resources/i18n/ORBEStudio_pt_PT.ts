@@ -13,7 +13,15 @@ Option,Byte5
 R,Byte6
 G,Byte7
 B</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando,Comprimento dos dados,Byte0
+Comando (hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
     </message>
 </context>
 <context>
@@ -866,11 +874,11 @@ B</source>
     </message>
     <message>
         <source>正在启动“%1”的驱动程序...</source>
-        <translation type="unfinished"></translation>
+        <translation>A iniciar o controlador de “%1”...</translation>
     </message>
     <message>
         <source>“%1”的驱动程序没有安装。请重新安装 ORBE 驱动程序后再试。</source>
-        <translation type="unfinished"></translation>
+        <translation>O controlador de “%1” não está instalado. Reinstale o controlador ORBE e tente novamente.</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,15 @@ Option,Byte5
 R,Byte6
 G,Byte7
 B</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommando,Datalängd,Byte0
+Kommando (hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
     </message>
 </context>
 <context>
@@ -866,11 +874,11 @@ B</source>
     </message>
     <message>
         <source>正在启动“%1”的驱动程序...</source>
-        <translation type="unfinished"></translation>
+        <translation>Startar drivrutinen för ”%1”...</translation>
     </message>
     <message>
         <source>“%1”的驱动程序没有安装。请重新安装 ORBE 驱动程序后再试。</source>
-        <translation type="unfinished"></translation>
+        <translation>Drivrutinen för ”%1” är inte installerad. Installera om ORBE-drivrutinen och försök igen.</translation>
     </message>
 </context>
 <context>

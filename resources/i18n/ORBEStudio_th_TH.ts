@@ -13,7 +13,15 @@ Option,Byte5
 R,Byte6
 G,Byte7
 B</source>
-        <translation type="unfinished"></translation>
+        <translation>คำสั่ง,ความยาวข้อมูล,Byte0
+หมายเลขคำสั่ง (Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
     </message>
 </context>
 <context>
@@ -866,11 +874,11 @@ B</source>
     </message>
     <message>
         <source>正在启动“%1”的驱动程序...</source>
-        <translation type="unfinished"></translation>
+        <translation>กำลังเริ่มไดรเวอร์ของ “%1”...</translation>
     </message>
     <message>
         <source>“%1”的驱动程序没有安装。请重新安装 ORBE 驱动程序后再试。</source>
-        <translation type="unfinished"></translation>
+        <translation>ไม่ได้ติดตั้งไดรเวอร์ของ “%1” โปรดติดตั้งไดรเวอร์ ORBE ใหม่แล้วลองอีกครั้ง</translation>
     </message>
 </context>
 <context>
