@@ -19,6 +19,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -70,6 +71,13 @@ QString picture(const NavigationEntry& entry, int state)
     if (image.startsWith(u':')) return image;
     const char* folder = state ? ":/images/leftbtns/1/" : ":/images/leftbtns/0/";
     return QLatin1String(folder) + image + QStringLiteral(".png");
+}
+
+template <typename T> int indexOfObject(const QList<T*>& list, const QObject* object)
+{
+    const auto found = std::find_if(list.cbegin(), list.cend(),
+                                    [object](const T* item) { return item == object; });
+    return found == list.cend() ? -1 : int(found - list.cbegin());
 }
 
 } // namespace
@@ -297,14 +305,16 @@ void FrameDeviceHolder::openCalibration()
 bool FrameDeviceHolder::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonRelease) {
-        const int labelIndex = labels.indexOf(static_cast<SuperLabel*>(watched));
+        // Compared as objects: the filter watches labels and buttons alike, and a cast to
+        // either type of an object of the other is undefined.
+        const int labelIndex = indexOfObject(labels, watched);
         if (labelIndex >= 0) {
             showPage(labels.at(labelIndex), labelIndex);
             return false;
         }
         // A release that began elsewhere presses the button too; the button's own release is
         // taken here so that one press gives one click.
-        const int layerIndex = layerButtons.indexOf(static_cast<QPushButton*>(watched));
+        const int layerIndex = indexOfObject(layerButtons, watched);
         if (layerIndex >= 0) {
             layerButtons.at(layerIndex)->click();
             return true;
