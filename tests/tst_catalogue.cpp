@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSettings>
 
@@ -254,6 +255,84 @@ private slots:
         QCOMPARE(type, quint16(1));
         QCOMPARE(OrbeDeviceBase::lookupName(0x21, type, 255, dir.path()), QString());
         QCOMPARE(type, quint16(255));
+    }
+
+    // What can't match is named, once for each content of the file, and what can still be
+    // trusted is found.
+    void problemsAreNamedOncePerContent_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("warnings");
+        QTest::addColumn<QString>(
+            "found"); // the name of 0x0AF7 (custom list: of 0x21 on 38EE:0030)
+
+        const QString brand = QLatin1String(OrbeDeviceBase::kFirstBrandFile);
+        const QString custom = QLatin1String(OrbeDeviceBase::kCustomListFile);
+        QTest::newRow("missing") << brand << QByteArray()
+                                 << QStringList{"cannot be read \\(No such file or directory\\)"}
+                                 << "";
+        QTest::newRow("entries without a numeric id")
+            << brand << QByteArray(R"({"keyboard": [{"id": "2807", "displayName": "Text id"}, 7,
+                                           {"id": 2807, "displayName": "HE75"}]})")
+            << QStringList{"entry 0 of \"keyboard\" has no numeric \"id\"",
+                           "entry 1 of \"keyboard\" has no numeric \"id\""}
+            << "HE75";
+        QTest::newRow("an array that isn't one")
+            << brand
+            << QByteArray(
+                   R"({"mouse": {"id": 1}, "keyboard": [{"id": 2807, "displayName": "HE75"}]})")
+            << QStringList{"\"mouse\" is not an array"} << "HE75";
+        QTest::newRow("custom list: ids that don't parse")
+            << custom
+            << QByteArray("////CustomDeviceList////\n"
+                          "0x11O1, 0x38EE, 0x0030, 0x21, 0, 1, Letter O\n"
+                          "0x1101, 0x38EE, 0x0030, , 0, 1, No probe id\n"
+                          "0x1102, 0x38EE, 0x0030, 0x21, 0, 1, Good\n")
+            << QStringList{"line 2: the device id \"0x11O1\" is not a number",
+                           "line 3: the probe id \"\" is not a number"}
+            << "Good";
+    }
+    void problemsAreNamedOncePerContent()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, content);
+        QFETCH(QStringList, warnings);
+        QFETCH(QString, found);
+        QTemporaryDir app; // told problems are remembered by path
+        const QString path = app.path() + file;
+        if (!content.isEmpty()) writeFile(path, content);
+        const bool customList = file == QLatin1String(OrbeDeviceBase::kCustomListFile);
+        auto lookUp = [&] {
+            quint16 type = 0;
+            QString name;
+            quint16 connection = 0;
+            if (!customList) return OrbeDeviceBase::lookupName(0x0AF7, type, 0, app.path());
+            OrbeDeviceBase::lookupCustom(0x38EE, 0x0030, 0x21, name, type, connection, app.path());
+            return name;
+        };
+
+        QTest::failOnWarning(QRegularExpression(".*"));
+        for (const QString& warning : warnings)
+            QTest::ignoreMessage(
+                QtWarningMsg,
+                QRegularExpression("^" + QRegularExpression::escape(path) + ": " + warning));
+        for (int scan = 0; scan < 3; ++scan)
+            QCOMPARE(lookUp(), found);
+
+        // Another content is another problem; a file that read well in between is told anew.
+        if (content.isEmpty()) return;
+        writeFile(path, content + "\n");
+        for (const QString& warning : warnings)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
+        QCOMPARE(lookUp(), found);
+        writeFile(path, customList ? "////CustomDeviceList////\n"
+                                   : R"({"keyboard": [{"id": 2807, "displayName": "HE75"}]})");
+        lookUp();
+        writeFile(path, content);
+        for (const QString& warning : warnings)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
+        QCOMPARE(lookUp(), found);
     }
 
     void parseNumber_data()

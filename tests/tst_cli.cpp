@@ -1,6 +1,12 @@
 #include "CallRegistry.h"
 #include "CliOptions.h"
+#include "CliSession.h"
+#include "DeviceListCommand.h"
+#include "ManualClock.h"
 #include "TestSupport.h"
+#include "VirtualHidBackend.h"
+#include "VirtualReceiver.h"
+#include "VirtualSilentKeyboard.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -9,6 +15,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextStream>
 
 // Runs the built tool against the virtual keyboards and checks what it prints.
 class TestCli : public QObject
@@ -319,6 +326,45 @@ private slots:
         QVERIFY(r.out.isEmpty());
         const QString err = QString::fromUtf8(r.err);
         QVERIFY2(err.startsWith("orbehub-cli: " + message), qPrintable(err));
+    }
+
+    // The list gives up after 30 s and says why: a device that never answers, or a pass that was
+    // only long. Virtual time, the tool's own command over the virtual devices.
+    void listSaysWhyItGaveUp_data()
+    {
+        QTest::addColumn<int>("silent");    // keyboards that never answer 8F
+        QTest::addColumn<int>("receivers"); // receivers with nothing paired, over 1 s each
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("a silent keyboard")
+            << 1 << 0
+            << "the device at sim:silent:2 never answered its identity request (it holds the "
+               "pass for as long as it is plugged in)";
+        QTest::newRow("only many devices")
+            << 0 << 30 << "no device held it, there were only too many to ask in that time";
+        QTest::newRow("both: the silent one is named") << 1 << 3 << "the device at sim:silent";
+    }
+    void listSaysWhyItGaveUp()
+    {
+        QFETCH(int, silent);
+        QFETCH(int, receivers);
+        QFETCH(QString, reason);
+        ManualClock clock;
+        VirtualHidBackend hid(&clock);
+        for (int i = 0; i < receivers; ++i)
+            hid.add<VirtualReceiver>(VirtualReceiver::Identity{}, 0u,
+                                     QByteArray("sim:rx") + QByteArray::number(i));
+        if (silent) hid.add<VirtualSilentKeyboard>(quint16(0x3151), quint16(0x5041), "sim:silent");
+
+        QString out;
+        QString err;
+        QTextStream outStream(&out);
+        QTextStream errStream(&err);
+        QCOMPARE(DeviceListCommand::run(hid, clock, outStream, errStream),
+                 int(CliSession::TimedOut));
+        QVERIFY(out.isEmpty());
+        QVERIFY2(
+            err.startsWith("orbehub-cli: the discovery pass did not end within 30 s: " + reason),
+            qPrintable(err));
     }
 };
 

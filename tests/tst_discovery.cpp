@@ -16,6 +16,7 @@
 #include "VirtualWsDevice.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QThread>
@@ -311,6 +312,9 @@ private slots:
             << QByteArray("[General]\nVIDset0=\"0x0461\"\n") << 0 << true;
         QTest::newRow("VIDset1 changes nothing")
             << QByteArray("[General]\nVIDset1=\"0x1234\"\n") << 1 << true;
+        // Taken as 0, a typo would have the pass ask every device on the machine.
+        QTest::newRow("a typo is skipped, not every vendor")
+            << QByteArray("[General]\nVIDset0=\"0x3151, 0x38EG, , 0x0461\"\n") << 1 << true;
     }
     void enumSettings()
     {
@@ -325,6 +329,14 @@ private slots:
             writeFile(file, ini);
         VirtualKeyboard* kb = rig.hid.addWiredKeyboard();
         auto* ws = rig.hid.add<VirtualWsDevice>(VirtualWsDevice::Identity{}, "sim:ws");
+        QTest::failOnWarning(QRegularExpression(".*"));
+        if (ini.contains("0x38EG")) {
+            for (const char* item : {"0x38EG", ""})
+                QTest::ignoreMessage(QtWarningMsg,
+                                     qPrintable(file + QStringLiteral(": VIDset0 item \"%1\" is "
+                                                                      "not a vendor id; skipped")
+                                                           .arg(QLatin1String(item))));
+        }
         QVERIFY(rig.pass());
         QCOMPARE(identifyCount(kb->model()), wiredProbes);
         QCOMPARE(rig.find(ws->path()).has_value(), wsFound);

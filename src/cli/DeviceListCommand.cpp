@@ -27,9 +27,16 @@ int DeviceListCommand::run(HidBackend& hid, Clock& clock, QTextStream& out, QTex
     const bool done = registry.enumerateDevices(
         [&clock, start] { return clock.elapsedMs() - start > kPassLimitMs; });
     if (!done) {
-        err << QStringLiteral("orbehub-cli: the discovery pass did not end within %1 s: a device "
-                              "never answers its identity request")
+        const QString holder = registry.unansweredDevice();
+        const QString why =
+            holder.isEmpty()
+                ? QStringLiteral("no device held it, there were only too many to ask in that time")
+                : QStringLiteral("the device at %1 never answered its identity request (it holds "
+                                 "the pass for as long as it is plugged in)")
+                      .arg(holder);
+        err << QStringLiteral("orbehub-cli: the discovery pass did not end within %1 s: %2")
                    .arg(kPassLimitMs / 1000)
+                   .arg(why)
             << Qt::endl;
         return CliSession::TimedOut;
     }

@@ -112,8 +112,10 @@ DeviceProbes::WiredAnswer DeviceProbes::wired(HidBackend& hid, Clock& clock, Hid
     WiredReply reply{};
     quint32 id = 0;
     int counted = 0;
+    int uncounted = 0;
     for (;;) {
-        if (stop && stop()) return {.stopped = true};
+        if (stop && stop())
+            return {.stopped = true, .neverAnswered = counted == 0 && uncounted > 0};
         const int sent = sendFeature(hid, handle, request);
         clock.sleepMs(kWiredPacing.settleMs);
         const int got = getFeature(hid, handle, reply);
@@ -124,6 +126,7 @@ DeviceProbes::WiredAnswer DeviceProbes::wired(HidBackend& hid, Clock& clock, Hid
         }
         if (reply[kWiredCommandOffset] != kIdentify) {
             // Deliberately uncounted: the keyboard may still be busy starting up.
+            ++uncounted;
             clock.sleepMs(kWiredPacing.retryMs);
             continue;
         }

@@ -19,8 +19,9 @@ quint32 bluetooth(HidBackend& hid, Clock& clock, HidHandle* handle);
 struct WiredAnswer
 {
     quint32 id = 0;
-    quint8 connection = 0; // 1 when a receiver named its keyboard
-    bool stopped = false;  // the pass was asked to stop while waiting for 8F
+    quint8 connection = 0;      // 1 when a receiver named its keyboard
+    bool stopped = false;       // the pass was asked to stop while waiting for 8F
+    bool neverAnswered = false; // stopped after rounds of which none answered 8F
 };
 
 // Wired route: 8F as a feature report until the device answers 8F (rounds without 8F are not

@@ -39,7 +39,12 @@ bool DeviceRegistry::enumerateDevices(const std::function<bool()>& stop)
     setup.appDir = appDir;
     setup.tarnwickBuild = tarnwickBuild;
     setup.stop = stop;
-    const std::optional<QStringList> seen = EnumerationPass(*this, setup).run();
+    EnumerationPass pass(*this, setup);
+    const std::optional<QStringList> seen = pass.run();
+    {
+        QMutexLocker lock(&mutex);
+        unanswered = pass.unansweredDevice();
+    }
     if (seen) {
         age(*seen);
         emit oEnumDeiceDone(records());
@@ -48,6 +53,12 @@ bool DeviceRegistry::enumerateDevices(const std::function<bool()>& stop)
     }
     scanning = false;
     return seen.has_value();
+}
+
+QString DeviceRegistry::unansweredDevice() const
+{
+    QMutexLocker lock(&mutex);
+    return unanswered;
 }
 
 void DeviceRegistry::addDevice(quint16 vendorId, quint16 productId, quint64 id,

@@ -37,6 +37,9 @@ public:
     // ---- The pass. Called on the enumeration thread; returns false when the gate refused it or
     // stop() answered true during it (then neither ageing nor oEnumDeiceDone happen).
     bool enumerateDevices(const std::function<bool()>& stop = {});
+    // After a stopped pass: the path of the device that held it by never answering its identity
+    // request, or empty when the pass was stopped while it went on.
+    QString unansweredDevice() const;
 
     // Makes or refreshes the record of a probed device; unknown devices are ignored.
     void addDevice(quint16 vendorId, quint16 productId, quint64 id, const QString& vendorPath,
@@ -90,4 +93,5 @@ private:
     mutable QMutex mutex;
     QList<DeviceEnumInfo> list;
     QString currentPath;
+    QString unanswered;
 };

@@ -1,5 +1,6 @@
 #include "EnumerationPass.h"
 
+#include "ConfigWarnings.h"
 #include "DeviceEnumInfo.h"
 #include "DeviceProbes.h"
 #include "DeviceRegistry.h"
@@ -14,15 +15,27 @@ using namespace Discovery;
 
 namespace {
 
-QList<quint16> parseVidList(const QVariant& value)
+// The vendor ids of one key. An item that isn't a number is skipped and named: taken as 0 it
+// would make the pass walk every HID device on the machine.
+QList<quint16> parseVidList(const QVariant& value, const QString& path, const char* key,
+                            int& problems)
 {
     // An unquoted value with commas comes back from the INI reader as a list.
     const QString text = value.typeId() == QMetaType::QStringList
                              ? value.toStringList().join(QLatin1Char(','))
                              : value.toString();
     QList<quint16> vendors;
-    for (const QString& item : text.split(QLatin1Char(',')))
-        vendors.append(quint16(OrbeDeviceBase::parseNumber(item) & 0xFFFF));
+    for (const QString& item : text.split(QLatin1Char(','))) {
+        const std::optional<quint64> vendor = OrbeDeviceBase::tryParseNumber(item);
+        if (!vendor) {
+            ConfigWarnings::warn(path, QByteArray(key) + '=' + text.toUtf8(),
+                                 QStringLiteral("%1 item \"%2\" is not a vendor id; skipped")
+                                     .arg(QLatin1String(key), item.trimmed()));
+            ++problems;
+            continue;
+        }
+        vendors.append(quint16(*vendor & 0xFFFF));
+    }
     return vendors;
 }
 
@@ -40,11 +53,19 @@ QString pathText(const QByteArray& path)
 
 EnumerationPass::VidSets EnumerationPass::readVidSets(const QString& appDir)
 {
-    QSettings ini(OrbeDeviceBase::rootDir(appDir) + QLatin1String(kEnumSettingsFile),
-                  QSettings::IniFormat);
+    const QString path = OrbeDeviceBase::rootDir(appDir) + QLatin1String(kEnumSettingsFile);
+    QSettings ini(path, QSettings::IniFormat);
+    if (ini.status() != QSettings::NoError)
+        ConfigWarnings::warn(path, {},
+                             QStringLiteral("cannot be read; the default vendor ids "
+                                            "are walked"));
     VidSets sets;
-    sets.set0 = parseVidList(ini.value(QLatin1String(kVidSet0Key), QLatin1String(kVidSet0Default)));
-    sets.set1 = parseVidList(ini.value(QLatin1String(kVidSet1Key), QLatin1String(kVidSet1Default)));
+    int problems = 0;
+    sets.set0 = parseVidList(ini.value(QLatin1String(kVidSet0Key), QLatin1String(kVidSet0Default)),
+                             path, kVidSet0Key, problems);
+    sets.set1 = parseVidList(ini.value(QLatin1String(kVidSet1Key), QLatin1String(kVidSet1Default)),
+                             path, kVidSet1Key, problems);
+    if (problems == 0 && ini.status() == QSettings::NoError) ConfigWarnings::clear(path);
     return sets;
 }
 
@@ -128,6 +149,7 @@ bool EnumerationPass::checkPending(const HidDeviceInfo& entry)
     const DeviceProbes::WiredAnswer answer =
         DeviceProbes::wired(hid, *setup.clock, handle, setup.stop);
     if (answer.stopped) {
+        if (answer.neverAnswered) unanswered = pendingDevicePath;
         hid.close(handle);
         return false;
     }

@@ -40,6 +40,9 @@ public:
 
     // The paths seen, or nothing when the pass was stopped.
     std::optional<QStringList> run();
+    // After a stopped pass: the device it was waiting on that never answered its identity
+    // request; empty when the pass was stopped elsewhere.
+    QString unansweredDevice() const { return unanswered; }
 
 private:
     bool stopped() const { return setup.stop && setup.stop(); }
@@ -56,4 +59,5 @@ private:
     QStringList seen;
     QString pendingVendorPath;
     QString pendingDevicePath;
+    QString unanswered;
 };
