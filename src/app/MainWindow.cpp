@@ -54,16 +54,7 @@ constexpr int kLanguageMenuShift = 10;
 constexpr int kCardSpacing = 20;
 constexpr double kArrowOpacity = 0.6;
 
-// The window's timers.
 constexpr int kSavedLanguageDelayMs = 10;
-constexpr int kEscapeWatchMs = 30;
-constexpr int kEmptyListWatchMs = 100;
-constexpr int kRaiseWatchMs = 200;
-constexpr int kFirstScanMs = 500;
-constexpr int kCardPageScanMs = 30000;
-constexpr int kOtherPageScanMs = 60000;
-constexpr int kLockWatchMs = 5000;
-constexpr qint64 kLockedIdleMs = 301000;
 constexpr int kShowFromTrayFromMs = 50;
 constexpr int kShowFromTrayUntilMs = 1500;
 
@@ -152,8 +143,7 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Platform& system, Cl
     connect(ui.pushButtonLang, &QPushButton::clicked, this, &MainWindow::showLanguageMenu);
     connect(ui.pushButtonSet, &QPushButton::clicked, this, &MainWindow::openSystemInfo);
 
-    // 8-9: the empty-list watch and the floating arrows.
-    emptyListTimer = clock->createTimer([this] { watchEmptyList(); }, false);
+    // 8-9: the empty-list watch (started with the others) and the floating arrows.
     createFloats();
 
     // 10-12: discovery thread, filters, arrow hiding.
@@ -200,6 +190,12 @@ MainWindow::MainWindow(std::unique_ptr<HidBackend> backend, Platform& system, Cl
             [this] { registry->setScanSuspended(false); });
     connect(link, &DialogDeviceConnect::onKeyTesting, this,
             [this](bool testing) { keyTesting = testing; });
+    // The pass raises the return flag itself when the open device is lost; the watch that
+    // takes it runs from here on.
+    connect(
+        registry.get(), &DeviceRegistry::currentDeviceLost, this,
+        [this] { armReturnWatch(); },
+        Qt::QueuedConnection);
 
     // 19-22.
     resetSharedValues();
@@ -235,16 +231,6 @@ void MainWindow::claimSingleInstance()
         std::exit(0);
     }
     raiseTimer = clock->createTimer([this] { watchRaiseRequest(); }, false);
-}
-
-void MainWindow::watchRaiseRequest()
-{
-    if (!instanceGuard->takeRaiseRequest()) return;
-    qCDebug(lcApp) << "a second start asks this hub to come forward";
-    showNormal();
-    raise();
-    activateWindow();
-    setFocus();
 }
 
 void MainWindow::renameImagesWithBlanks()
@@ -316,60 +302,12 @@ void MainWindow::resetSharedValues()
         platform.setUserValue(QLatin1String(value.key), value.value);
 }
 
-void MainWindow::startTimers()
-{
-    auto repeating = [this](int ms, void (MainWindow::*work)()) {
-        auto timer = clock->createTimer([this, work] { (this->*work)(); }, false);
-        timer->start(ms);
-        return timer;
-    };
-    escapeTimer = repeating(kEscapeWatchMs, &MainWindow::watchEscape);
-    // Armed while something may ask for the way back (armReturnWatch); it stops itself.
-    returnTimer = clock->createTimer([this] { watchReturn(); }, false);
-    if (hasReturnToWatch()) armReturnWatch();
-    emptyListTimer->start(kEmptyListWatchMs);
-    raiseTimer->start(kRaiseWatchMs);
-    lockTimer = repeating(kLockWatchMs, &MainWindow::watchLock);
-    scanTimer = clock->createTimer([this] { scanTick(); }, true);
-    scanTimer->start(kFirstScanMs);
-}
-
-void MainWindow::scanTick()
-{
-    enumThread->requestScan();
-    scanTimer->start(ui.stackedWidget->currentIndex() == CardPage ? kCardPageScanMs
-                                                                  : kOtherPageScanMs);
-}
-
-void MainWindow::watchEmptyList()
-{
-    const bool empty = ui.cardLayout->isEmpty();
-    if (empty == cardsWereEmpty && ui.stackedWidget->isHidden() == empty) return;
-    cardsWereEmpty = empty;
-    ui.stackedWidget->setHidden(empty);
-    ui.labelLogo->setHidden(empty);
-    update();
-}
-
-void MainWindow::watchEscape()
-{
-    if (platform.keyState(Platform::KeyEscape) >= 0 || keyTesting) return;
-    qCDebug(lcApp) << "OrbeReturn 0";
-    askReturn();
-    setPage(CardPage);
-}
-
-void MainWindow::watchLock()
-{
-    if (platform.isSessionLocked() && platform.millisecondsSinceInput() >= kLockedIdleMs)
-        askReturn();
-}
-
 void MainWindow::setPage(int index)
 {
     ui.stackedWidget->setCurrentIndex(index);
     // Away from the cards something may ask for the way back.
     if (index != CardPage) armReturnWatch();
+    updateWatches();
 }
 
 void MainWindow::rescan()
@@ -383,6 +321,7 @@ void MainWindow::rescan()
         if (QWidget* card = item->widget()) card->hide();
         delete item;
     }
+    updateWatches();
     enumThread->requestScan();
 }
 
@@ -417,6 +356,7 @@ void MainWindow::refreshCards(const QList<DeviceEnumInfo>& snapshot)
         if (ui.cardLayout->indexOf(card) < 0) ui.cardLayout->addWidget(card);
     }
     updateCounts();
+    updateWatches();
 }
 
 void MainWindow::updateCounts()

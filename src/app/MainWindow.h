@@ -103,6 +103,9 @@ public:
     void watchReturn();
     bool isWatchingReturn() const;
     SiblingHost* siblingHost() const { return siblings.get(); }
+    // Starts the watches that have something to watch and stops the others; run whenever the
+    // page, the cards or the return flag change.
+    void updateWatches();
 
 protected:
     bool event(QEvent* event) override;

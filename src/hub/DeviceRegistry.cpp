@@ -128,7 +128,10 @@ void DeviceRegistry::age(const QStringList& seen)
             if (now - qint64(record.lastSeen) > kOnlineSeconds) record.online = false;
         }
     }
-    if (lostCurrent) raiseReturnFlag();
+    if (lostCurrent) {
+        raiseReturnFlag();
+        emit currentDeviceLost();
+    }
 }
 
 void DeviceRegistry::raiseReturnFlag()

@@ -73,6 +73,9 @@ signals:
     // Ends every pass that ran, with copies of the records as the pass left them. Emitted on
     // the enumeration thread: connect it queued.
     void oEnumDeiceDone(const QList<DeviceEnumInfo>& devices);
+    // The record of the open page was not seen by a pass: "OrbeReturn" has been set to 1.
+    // Emitted on the enumeration thread.
+    void currentDeviceLost();
 
 private:
     void age(const QStringList& seen);

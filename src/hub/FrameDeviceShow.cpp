@@ -7,6 +7,7 @@
 #include "HubLog.h"
 #include "OrbeDeviceBase.h"
 
+#include <QDateTime>
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
@@ -133,16 +134,12 @@ FrameDeviceShow::FrameDeviceShow(const Context& cardContext, QWidget* parent)
     layout->addLayout(badges);
 
     reportTimer = clock()->createTimer([this] { report(); }, false);
-    reportTimer->start(kReportPeriodMs);
 }
 
 FrameDeviceShow::~FrameDeviceShow() = default;
 
 void FrameDeviceShow::setDevice(const DeviceEnumInfo& device)
 {
-    // Every pass hands the same devices over again: a picture already shown isn't decoded anew.
-    const bool samePicture = hasDevice && current.displayName == device.displayName &&
-                             current.deviceType == device.deviceType;
     current = device;
     hasDevice = true;
     labelDeviceName->setText(device.displayName);
@@ -151,22 +148,36 @@ void FrameDeviceShow::setDevice(const DeviceEnumInfo& device)
     if (!QFile::exists(path))
         path =
             imagesDir() + QString(device.displayName).replace(u' ', u'-') + QStringLiteral(".png");
-    if (!samePicture || path != shownPicture) setImage(path, device.deviceType);
+    setImage(path, device.deviceType);
 
-    labelPower->setVisible(device.connectionType != DeviceEnumInfo::Usb);
+    const bool wireless = device.connectionType != DeviceEnumInfo::Usb;
+    labelPower->setVisible(wireless);
     clock()->singleShot(kFirstReportMs, this, [this] { report(); });
+    // The 10 s report has nothing to ask of a wired device: its timer sleeps with it.
+    if (wireless && !reportTimer->isActive())
+        reportTimer->start(kReportPeriodMs);
+    else if (!wireless)
+        reportTimer->stop();
 
-    typeImg = connectionImage(device.connectionType);
-    labelType->setPixmap(QPixmap(typeImg));
+    const QString type = connectionImage(device.connectionType);
+    if (type != typeImg) labelType->setPixmap(QPixmap(type));
+    typeImg = type;
 }
 
 void FrameDeviceShow::setImage(const QString& path, int deviceType)
 {
-    shownPicture = path;
     if (deviceType == DeviceEnumInfo::Keyboard)
         setFixedWidth(kKeyboardCardWidth);
     else if (deviceType == DeviceEnumInfo::Mouse || deviceType == 2)
         setFixedWidth(kSmallCardWidth);
+
+    // Every pass shows the cards again: a picture already shown is not decoded again, unless
+    // its file has been replaced since.
+    const QDateTime modified = QFileInfo(path).lastModified();
+    if (path == imagePath && deviceType == imageType && modified == imageModified) return;
+    imagePath = path;
+    imageType = deviceType;
+    imageModified = modified;
 
     deviceImg = path;
     QPixmap picture(path);

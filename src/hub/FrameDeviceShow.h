@@ -2,6 +2,7 @@
 
 #include "DeviceEnumInfo.h"
 
+#include <QDateTime>
 #include <QFrame>
 #include <QSize>
 #include <QString>
@@ -92,7 +93,9 @@ private:
     QScrollArea* scrollArea = nullptr;
     QString deviceImg;
     QString typeImg;
-    QString shownPicture; // the file setImage was given last
+    QString imagePath; // the picture asked for last, the type it was asked with, its file's age
+    int imageType = -1;
+    QDateTime imageModified;
     int lastPercent = -1;
     bool batteryPending = false;
 

@@ -8,6 +8,7 @@
 
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QMutexLocker>
 #include <QPainterPath>
 #include <QProcess>
 #include <QRegion>
@@ -98,14 +99,28 @@ void LinuxPlatform::clearMachineAutostart()
 
 // ---- per-user values
 
+QSettings& LinuxPlatform::userStore()
+{
+    // Opened once: the return watch asks ten times a second while it runs. sync() before each
+    // read takes in what a sibling driver wrote; when nothing changed it costs one stat.
+    if (!store)
+        store = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
+                                            organisation);
+    return *store;
+}
+
 QVariant LinuxPlatform::userValue(const QString& key)
 {
-    return QSettings(QSettings::NativeFormat, QSettings::UserScope, organisation).value(key);
+    QMutexLocker lock(&storeMutex);
+    QSettings& settings = userStore();
+    settings.sync();
+    return settings.value(key);
 }
 
 void LinuxPlatform::setUserValue(const QString& key, const QVariant& value)
 {
-    QSettings settings(QSettings::NativeFormat, QSettings::UserScope, organisation);
+    QMutexLocker lock(&storeMutex);
+    QSettings& settings = userStore();
     settings.setValue(key, value);
     settings.sync();
     if (settings.status() != QSettings::NoError)
@@ -114,7 +129,10 @@ void LinuxPlatform::setUserValue(const QString& key, const QVariant& value)
 
 void LinuxPlatform::removeUserValue(const QString& key)
 {
-    QSettings(QSettings::NativeFormat, QSettings::UserScope, organisation).remove(key);
+    QMutexLocker lock(&storeMutex);
+    QSettings& settings = userStore();
+    settings.remove(key);
+    settings.sync();
 }
 
 // ---- processes

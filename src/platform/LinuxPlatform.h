@@ -3,8 +3,11 @@
 #include "Platform.h"
 
 #include <QHash>
+#include <QMutex>
 #include <QPointer>
 #include <QSet>
+#include <QSettings>
+#include <memory>
 
 class KeyStateTracker;
 class QWindow;
@@ -58,6 +61,7 @@ private:
     // This program's window with that id, or a wrapper of another program's window where the
     // windowing system allows one; null otherwise.
     QWindow* windowOf(WindowId window);
+    QSettings& userStore(); // with storeMutex held
     void tellOnce(const char* what);
 
     QString organisation;
@@ -65,4 +69,6 @@ private:
     // Owned; a window we put into one of ours goes when ours goes, hence the guard.
     QHash<WindowId, QPointer<QWindow>> foreignWindows;
     QSet<QByteArray> told;
+    QMutex storeMutex;
+    std::unique_ptr<QSettings> store;
 };

@@ -4,6 +4,7 @@
 #include "Win32Calls.h"
 
 #include <QDir>
+#include <QMutexLocker>
 #include <QSettings>
 
 namespace {
@@ -105,19 +106,29 @@ void WindowsPlatform::clearMachineAutostart()
         qCDebug(lcPlatform) << "the machine-wide Run value stays; no right to remove it";
 }
 
+QSettings& WindowsPlatform::userStore()
+{
+    // Opened once; the registry is read live, so a sibling driver's writes are seen at once.
+    if (!store) store = std::make_unique<QSettings>(userKey, QSettings::NativeFormat);
+    return *store;
+}
+
 QVariant WindowsPlatform::userValue(const QString& key)
 {
-    return QSettings(userKey, QSettings::NativeFormat).value(key);
+    QMutexLocker lock(&storeMutex);
+    return userStore().value(key);
 }
 
 void WindowsPlatform::setUserValue(const QString& key, const QVariant& value)
 {
-    QSettings(userKey, QSettings::NativeFormat).setValue(key, value);
+    QMutexLocker lock(&storeMutex);
+    userStore().setValue(key, value);
 }
 
 void WindowsPlatform::removeUserValue(const QString& key)
 {
-    QSettings(userKey, QSettings::NativeFormat).remove(key);
+    QMutexLocker lock(&storeMutex);
+    userStore().remove(key);
 }
 
 bool WindowsPlatform::startProcess(const QString& programPath)

@@ -2,7 +2,10 @@
 
 #include "Platform.h"
 
+#include <QMutex>
+#include <QSettings>
 #include <QString>
+#include <memory>
 
 // Windows: the Win32 calls (in Win32Calls.cpp) and the registry through QSettings.
 class WindowsPlatform : public Platform
@@ -46,5 +49,9 @@ public:
     void postCloseMessage(WindowId window) override;
 
 private:
+    QSettings& userStore(); // with storeMutex held
+
     QString userKey;
+    QMutex storeMutex;
+    std::unique_ptr<QSettings> store;
 };
