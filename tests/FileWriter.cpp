@@ -1,0 +1,91 @@
+// A program that saves one of the hub's files over and over, through the hub's own code, until it
+// is killed: version 0 and version 1 of the content by turns. tst_savedfiles kills it at random
+// moments and looks at what is left on disk.
+//
+//   orbe_file_writer macro DIR      the macro store in DIR/macro/ (header and events of macro 0)
+//   orbe_file_writer settings       the per-user values ($XDG_CONFIG_HOME/Orbe.conf)
+//   orbe_file_writer autostart      the autostart entry ($XDG_CONFIG_HOME/autostart/)
+//   ... --once N                    saves version N once and ends: the file to expect
+//
+// It prints "ready" once the file exists, then keeps saving.
+
+#include "LinuxPlatform.h"
+#include "ModuleMacroManager.h"
+#include "XdgAutostart.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <cstdio>
+#include <functional>
+
+namespace {
+
+// Big enough that a save takes a while, so that kills land inside it.
+constexpr int kMacroEvents[2] = {3000, 5000};
+constexpr int kSettingsChars[2] = {150000, 250000};
+
+void fillMacro(ModuleMacroManager& store, Macro& macro, int version)
+{
+    qDeleteAll(macro.events);
+    macro.events.clear();
+    macro.name = QStringLiteral("version %1").arg(version);
+    for (int i = 0; i < kMacroEvents[version]; ++i) {
+        if (i % 2 == 0)
+            store.AddEvent(&macro, MacroEvent::Key, quint16(4 + version), i % 4 == 0,
+                           QStringLiteral("key of version %1").arg(version));
+        else
+            store.AddEvent(&macro, MacroEvent::Delay, quint16(10 + version), false, QString());
+    }
+}
+
+int run(const std::function<bool(int)>& save, int once)
+{
+    if (once >= 0) return save(once) ? 0 : 1;
+    if (!save(0)) return 1;
+    std::puts("ready");
+    std::fflush(stdout);
+    for (int round = 1;; ++round)
+        if (!save(round % 2)) return 1;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    const QStringList args = app.arguments().mid(1);
+    const qsizetype at = args.indexOf(QStringLiteral("--once"));
+    const int once = at >= 0 ? qBound(0, args.value(at + 1).toInt(), 1) : -1;
+    const QString kind = args.value(0);
+
+    if (kind == QLatin1String("macro")) {
+        ModuleMacroManager store(args.value(1));
+        Macro* macro = store.FindMacro(0);
+        if (!macro) return 1;
+        return run(
+            [&](int version) {
+                fillMacro(store, *macro, version);
+                return store.SaveHeader() && store.SaveEvents(macro);
+            },
+            once);
+    }
+    if (kind == QLatin1String("settings")) {
+        LinuxPlatform platform;
+        return run(
+            [&](int version) {
+                platform.setUserValue(QStringLiteral("DevicePath"),
+                                      QString(kSettingsChars[version], QLatin1Char('a' + version)));
+                return true;
+            },
+            once);
+    }
+    if (kind == QLatin1String("autostart")) {
+        return run(
+            [](int version) {
+                return XdgAutostart::write(QStringLiteral("/opt/orbe hub %1/orbehub").arg(version));
+            },
+            once);
+    }
+    std::fputs("usage: orbe_file_writer macro DIR | settings | autostart [--once 0|1]\n", stderr);
+    return 2;
+}
