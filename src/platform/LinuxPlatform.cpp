@@ -22,12 +22,23 @@
 #include <QDBusVariant>
 #endif
 
+namespace {
+
+// Whether the application has windows at all. Not qGuiApp, which casts a command-line tool's
+// QCoreApplication to a QGuiApplication as well.
+bool windowsExist()
+{
+    return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
+}
+
+} // namespace
+
 LinuxPlatform::LinuxPlatform(const QString& organisation) : organisation(organisation) {}
 
 LinuxPlatform::~LinuxPlatform()
 {
     // The process-wide platform can outlive the application object; a window must not.
-    if (qGuiApp) qDeleteAll(foreignWindows);
+    if (windowsExist()) qDeleteAll(foreignWindows);
 }
 
 void LinuxPlatform::tellOnce(const char* what)
@@ -159,7 +170,7 @@ bool LinuxPlatform::endProcess(const QString& name)
 
 QWindow* LinuxPlatform::windowOf(WindowId window)
 {
-    if (!qGuiApp || window == 0) return nullptr;
+    if (!windowsExist() || window == 0) return nullptr;
     // Only windows that have a native window already: winId() would create the others.
     const QWindowList own = QGuiApplication::allWindows();
     for (QWindow* w : own) {
@@ -177,7 +188,7 @@ QWindow* LinuxPlatform::windowOf(WindowId window)
 
 Platform::WindowId LinuxPlatform::findWindow(const QString& title, const QString& className)
 {
-    if (qGuiApp) {
+    if (windowsExist()) {
         const QWindowList own = QGuiApplication::topLevelWindows();
         for (QWindow* w : own) {
             if (w->handle() && w->title() == title && className.isEmpty()) return w->winId();
@@ -299,7 +310,7 @@ void LinuxPlatform::setBottomRoundedRegion(WindowId window, const QSize& size, i
 
 void LinuxPlatform::postCloseMessage(WindowId window)
 {
-    if (qGuiApp) {
+    if (windowsExist()) {
         const QWindowList own = QGuiApplication::allWindows();
         for (QWindow* w : own) {
             if (w->handle() && w->winId() == window) {
