@@ -1,0 +1,73 @@
+// The macro store's files of any content, read as the store reads them from its folder, and
+// every macro loaded packed for the keyboard. The first byte picks the file: even, the header
+// (which loads the events of the macros it lists); odd, the event file of macro 0.
+
+#include "FuzzSupport.h"
+#include "MacroBlob.h"
+#include "ModuleMacroManager.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <memory>
+
+namespace {
+
+// In memory where the system offers it: every input is written and read back.
+QString scratchRoot()
+{
+    const QString shm = QStringLiteral("/dev/shm");
+    return QFileInfo(shm).isWritable() ? shm : QDir::tempPath();
+}
+
+struct Store
+{
+    QTemporaryDir dir{scratchRoot() + QStringLiteral("/orbe-fuzz-XXXXXX")};
+    std::unique_ptr<ModuleMacroManager> store;
+};
+
+Store* shared = nullptr;
+
+void write(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate)) file.write(content);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    FuzzSupport::quiet();
+    shared = new Store; // kept to the end: the folder is reused by every input
+    shared->store = std::make_unique<ModuleMacroManager>(shared->dir.path());
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    if (size == 0) return 0;
+    ModuleMacroManager& store = *shared->store;
+    const QByteArray content = FuzzSupport::bytes(data + 1, size - 1);
+    if (data[0] % 2 == 0) {
+        write(store.headerPath(), content);
+        store.LoadHeader();
+    } else {
+        Macro* macro = store.FindMacro(0);
+        if (!macro) macro = store.AddMacro();
+        if (!macro) return 0;
+        write(store.eventPath(0), content);
+        store.LoadEvents(macro);
+    }
+    if (store.macros().size() > ModuleMacroManager::kMaxMacros) __builtin_trap();
+    for (const Macro* macro : store.macros()) {
+        const QByteArray stream = ModuleMacroManager::PackMacro(macro);
+        const QByteArray blob = MacroBlob::build(macro->repeat, stream);
+        const int pages = MacroBlob::pageCount(blob);
+        if (blob.size() % MacroBlob::kPageSize != 0) __builtin_trap();
+        for (int page = 0; page < pages; ++page)
+            if (MacroBlob::page(blob, page).size() != MacroBlob::kPageSize) __builtin_trap();
+    }
+    return 0;
+}
