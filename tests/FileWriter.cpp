@@ -3,12 +3,14 @@
 // moments and looks at what is left on disk.
 //
 //   orbe_file_writer macro DIR      the macro store in DIR/macro/ (header and events of macro 0)
+//   orbe_file_writer works DIR      the light works library, DIR/work/ledwork.json
 //   orbe_file_writer settings       the per-user values ($XDG_CONFIG_HOME/Orbe.conf)
 //   orbe_file_writer autostart      the autostart entry ($XDG_CONFIG_HOME/autostart/)
 //   ... --once N                    saves version N once and ends: the file to expect
 //
 // It prints "ready" once the file exists, then keeps saving.
 
+#include "LightWorkStore.h"
 #include "LinuxPlatform.h"
 #include "ModuleMacroManager.h"
 #include "XdgAutostart.h"
@@ -23,6 +25,19 @@ namespace {
 // Big enough that a save takes a while, so that kills land inside it.
 constexpr int kMacroEvents[2] = {3000, 5000};
 constexpr int kSettingsChars[2] = {150000, 250000};
+constexpr int kWorks[2] = {40, 60};
+
+QList<LightWork> works(int version)
+{
+    QList<LightWork> list;
+    for (int i = 0; i < kWorks[version]; ++i) {
+        const QByteArray map(128 * 3, char(i + version));
+        list.append({.image = QString(2000, QLatin1Char('A' + version)),
+                     .name = QStringLiteral("work %1 of version %2").arg(i).arg(version),
+                     .data = LightWorkStore::toHex(map)});
+    }
+    return list;
+}
 
 void fillMacro(ModuleMacroManager& store, Macro& macro, int version)
 {
@@ -69,6 +84,10 @@ int main(int argc, char* argv[])
             },
             once);
     }
+    if (kind == QLatin1String("works")) {
+        LightWorkStore store(args.value(1) + QStringLiteral("/work"));
+        return run([&](int version) { return store.save(works(version)); }, once);
+    }
     if (kind == QLatin1String("settings")) {
         LinuxPlatform platform;
         return run(
@@ -86,6 +105,8 @@ int main(int argc, char* argv[])
             },
             once);
     }
-    std::fputs("usage: orbe_file_writer macro DIR | settings | autostart [--once 0|1]\n", stderr);
+    std::fputs(
+        "usage: orbe_file_writer macro DIR | works DIR | settings | autostart [--once 0|1]\n",
+        stderr);
     return 2;
 }

@@ -19,6 +19,7 @@ struct Target
 
 const QList<Target> kTargets{
     {"macro", {"macro/macroheader.txt", "macro/macroevent0.txt"}},
+    {"works", {"work/ledwork.json"}},
     {"settings", {"config/Orbe.conf"}},
     {"autostart", {"config/autostart/orbehub.desktop"}},
 };
@@ -37,7 +38,9 @@ struct Writer
         env.insert("XDG_CONFIG_HOME", root + "/config");
         process.setProcessEnvironment(env);
         QStringList args{QString::fromLatin1(target.kind)};
-        if (QLatin1String(target.kind) == QLatin1String("macro")) args << root;
+        if (QLatin1String(target.kind) == QLatin1String("macro") ||
+            QLatin1String(target.kind) == QLatin1String("works"))
+            args << root;
         process.start(QStringLiteral(ORBE_FILE_WRITER), args + extra);
     }
 };
