@@ -8,22 +8,14 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <memory>
 
 namespace {
 
-// In memory where the system offers it: every input is written and read back.
-QString scratchRoot()
-{
-    const QString shm = QStringLiteral("/dev/shm");
-    return QFileInfo(shm).isWritable() ? shm : QDir::tempPath();
-}
-
 struct Store
 {
-    QTemporaryDir dir{scratchRoot() + QStringLiteral("/orbe-fuzz-XXXXXX")};
+    QTemporaryDir dir{FuzzSupport::scratchRoot() + QStringLiteral("/orbe-fuzz-XXXXXX")};
     std::unique_ptr<ModuleMacroManager> store;
 };
 

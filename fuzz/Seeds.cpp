@@ -1,12 +1,17 @@
-// Writes the seed inputs of fuzz_macrostore into a folder: a header and event files as the store
-// saves them, each behind the byte that picks its kind (0 header, 1 events).
-//   fuzz_macro_seeds OUTDIR
+// Writes the seed inputs of the file targets, as the stores themselves save them:
+//   fuzz_seeds OUTDIR
+// OUTDIR/fuzz_macrostore/: a header and event files, each behind the byte that picks its kind
+// (0 header, 1 events); OUTDIR/fuzz_lightworks/: works libraries with real pictures and maps.
 
+#include "LightWorkStore.h"
 #include "ModuleMacroManager.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QPainter>
 #include <QTemporaryDir>
 
 namespace {
@@ -20,13 +25,42 @@ bool seed(const QString& out, const QString& name, char kind, const QString& sou
     return file.write(QByteArray(1, kind) + in.readAll()) > 0;
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+// A small picture of a keyboard as the works page stores it: a PNG in base64.
+QString picture(int hue)
 {
-    QCoreApplication app(argc, argv);
-    const QString out = app.arguments().value(1);
-    if (out.isEmpty() || !QDir().mkpath(out)) return 2;
+    QImage image(64, 24, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setBrush(QColor::fromHsv(hue, 200, 230));
+    painter.drawRoundedRect(image.rect().adjusted(1, 1, -1, -1), 4, 4);
+    painter.end();
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    image.save(&png, "PNG");
+    return QString::fromLatin1(png.data().toBase64());
+}
+
+bool lightWorks(const QString& out)
+{
+    QTemporaryDir dir;
+    LightWorkStore store(dir.path());
+    QList<LightWork> works;
+    bool ok = store.save(works); // an empty library
+    ok = ok && QFile::copy(store.filePath(), QDir(out).filePath(QStringLiteral("empty")));
+    for (int i = 0; i < 3; ++i) {
+        QByteArray map(128 * 3, '\0');
+        for (int key = 0; key < 128; ++key)
+            map[key * 3 + i % 3] = char(key * 2);
+        works.append({.image = picture(i * 100),
+                      .name = QStringLiteral("作品 %1").arg(i),
+                      .data = LightWorkStore::toHex(map)});
+    }
+    ok = ok && store.save(works);
+    return ok && QFile::copy(store.filePath(), QDir(out).filePath(QStringLiteral("three")));
+}
+
+bool macros(const QString& out)
+{
     QTemporaryDir dir;
     ModuleMacroManager store(dir.path());
 
@@ -58,5 +92,19 @@ int main(int argc, char* argv[])
         ok = ok && store.SaveEvents(store.FindMacro(id)) &&
              seed(out, QStringLiteral("events%1").arg(id), 1, store.eventPath(id));
     }
+    return ok;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    const QDir out(app.arguments().value(1));
+    if (out.path().isEmpty() || !out.mkpath(QStringLiteral("fuzz_macrostore")) ||
+        !out.mkpath(QStringLiteral("fuzz_lightworks")))
+        return 2;
+    const bool ok = macros(out.filePath(QStringLiteral("fuzz_macrostore"))) &&
+                    lightWorks(out.filePath(QStringLiteral("fuzz_lightworks")));
     return ok ? 0 : 1;
 }
