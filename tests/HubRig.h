@@ -18,12 +18,21 @@
 #include <QLabel>
 #include <QLayout>
 #include <QStackedWidget>
+#include <QStandardPaths>
 #include <QTest>
 #include <QThread>
 #include <functional>
 #include <memory>
 
 constexpr int kStepMs = 5;
+
+// What every window test program does first: test mode, and the recording platform the
+// windows are given.
+inline FakePlatform* startWindowTests()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    return &FakePlatform::shared();
+}
 
 // A window over virtual devices on a manual clock. The window is never shown, so the discovery
 // gate stays shut and the tests put the devices into the registry themselves.

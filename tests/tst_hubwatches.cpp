@@ -20,11 +20,7 @@ class TestHubWatches : public QObject
     QStringList watchCalls() const { return platform->operationsNamed({"keyState", "userValue"}); }
 
 private slots:
-    void initTestCase()
-    {
-        QStandardPaths::setTestModeEnabled(true);
-        platform = &FakePlatform::shared();
-    }
+    void initTestCase() { platform = startWindowTests(); }
     void init() { platform->reset(); }
 
     // On the cards, with a device shown, a minute passes with nothing asked but the lock.

@@ -57,11 +57,7 @@ class TestHubWindow : public QObject
     FakePlatform* platform = nullptr;
 
 private slots:
-    void initTestCase()
-    {
-        QStandardPaths::setTestModeEnabled(true);
-        platform = &FakePlatform::shared();
-    }
+    void initTestCase() { platform = startWindowTests(); }
     void init() { platform->reset(); }
 
     // ---- cards
