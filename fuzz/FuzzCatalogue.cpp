@@ -7,12 +7,6 @@
 
 #include <QString>
 
-extern "C" int LLVMFuzzerInitialize(int*, char***)
-{
-    FuzzSupport::quiet();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const QByteArray json = FuzzSupport::bytes(data, size);

@@ -4,12 +4,6 @@
 #include "CustomDeviceList.h"
 #include "FuzzSupport.h"
 
-extern "C" int LLVMFuzzerInitialize(int*, char***)
-{
-    FuzzSupport::quiet();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const QString path = QStringLiteral("fuzz/CustomDeviceList.json");

@@ -6,50 +6,19 @@
 #include "MacroBlob.h"
 #include "ModuleMacroManager.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <memory>
-
-namespace {
-
-struct Store
-{
-    QTemporaryDir dir{FuzzSupport::scratchRoot() + QStringLiteral("/orbe-fuzz-XXXXXX")};
-    std::unique_ptr<ModuleMacroManager> store;
-};
-
-Store* shared = nullptr;
-
-void write(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate)) file.write(content);
-}
-
-} // namespace
-
-extern "C" int LLVMFuzzerInitialize(int*, char***)
-{
-    FuzzSupport::quiet();
-    shared = new Store; // kept to the end: the folder is reused by every input
-    shared->store = std::make_unique<ModuleMacroManager>(shared->dir.path());
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     if (size == 0) return 0;
-    ModuleMacroManager& store = *shared->store;
-    const QByteArray content = FuzzSupport::bytes(data + 1, size - 1);
+    ModuleMacroManager& store = FuzzSupport::scratchStore<ModuleMacroManager>();
+    const char* content = reinterpret_cast<const char*>(data) + 1;
     if (data[0] % 2 == 0) {
-        write(store.headerPath(), content);
+        FuzzSupport::writeFile(store.headerPath(), content, size - 1);
         store.LoadHeader();
     } else {
         Macro* macro = store.FindMacro(0);
         if (!macro) macro = store.AddMacro();
         if (!macro) return 0;
-        write(store.eventPath(0), content);
+        FuzzSupport::writeFile(store.eventPath(0), content, size - 1);
         store.LoadEvents(macro);
     }
     if (store.macros().size() > ModuleMacroManager::kMaxMacros) __builtin_trap();
