@@ -39,18 +39,23 @@ QList<LightWork> works(int version)
     return list;
 }
 
-void fillMacro(ModuleMacroManager& store, Macro& macro, int version)
+// The events of a version, made once: the loop spends its time saving, not building.
+QList<MacroEvent*> macroEvents(int version)
 {
-    qDeleteAll(macro.events);
-    macro.events.clear();
-    macro.name = QStringLiteral("version %1").arg(version);
+    QList<MacroEvent*> events;
     for (int i = 0; i < kMacroEvents[version]; ++i) {
         if (i % 2 == 0)
-            store.AddEvent(&macro, MacroEvent::Key, quint16(4 + version), i % 4 == 0,
-                           QStringLiteral("key of version %1").arg(version));
+            events.append(new MacroEvent{.type = MacroEvent::Key,
+                                         .down = i % 4 == 0,
+                                         .value = quint16(4 + version),
+                                         .text = QStringLiteral("key of version %1").arg(version)});
         else
-            store.AddEvent(&macro, MacroEvent::Delay, quint16(10 + version), false, QString());
+            events.append(new MacroEvent{.type = MacroEvent::Delay,
+                                         .down = false,
+                                         .value = quint16(10 + version),
+                                         .text = QString()});
     }
+    return events;
 }
 
 int run(const std::function<bool(int)>& save, int once)
@@ -77,12 +82,19 @@ int main(int argc, char* argv[])
         ModuleMacroManager store(args.value(1));
         Macro* macro = store.FindMacro(0);
         if (!macro) return 1;
-        return run(
+        qDeleteAll(macro->events);
+        const QList<MacroEvent*> versions[2] = {macroEvents(0), macroEvents(1)};
+        const int status = run(
             [&](int version) {
-                fillMacro(store, *macro, version);
+                macro->name = QStringLiteral("version %1").arg(version);
+                macro->events = versions[version];
                 return store.SaveHeader() && store.SaveEvents(macro);
             },
             once);
+        macro->events.clear(); // the versions' events are freed here, not by the macro
+        qDeleteAll(versions[0]);
+        qDeleteAll(versions[1]);
+        return status;
     }
     if (kind == QLatin1String("works")) {
         LightWorkStore store(args.value(1) + QStringLiteral("/work"));

@@ -4,10 +4,12 @@
 
 #include "TestSupport.h"
 
+#include <QDeadlineTimer>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 namespace {
 
@@ -24,8 +26,11 @@ const QList<Target> kTargets{
     {"autostart", {"config/autostart/orbehub.desktop"}},
 };
 
-constexpr int kKills = 30;
+// Kills go on until this many landed inside a save (the rest fell between two saves).
+constexpr int kCutsWanted = 20;
+constexpr int kMostKills = 200;
 constexpr int kLongestWaitMs = 40;
+constexpr quint32 kLongestInsideUs = 3000;
 
 // A writer in its own folder; XDG_CONFIG_HOME points into it.
 struct Writer
@@ -99,13 +104,21 @@ private slots:
 
         QTemporaryDir root;
         int cut = 0; // kills that landed inside a save
-        for (int kill = 0; kill < kKills; ++kill) {
+        int kill = 0;
+        for (; cut < kCutsWanted && kill < kMostKills; ++kill) {
             Writer writer;
             writer.start(t, root.path());
             QVERIFY(writer.process.waitForReadyRead(60000));
             QCOMPARE(writer.process.readLine().trimmed(), QByteArray("ready"));
-            QTest::qSleep(int(QRandomGenerator::global()->bounded(1, kLongestWaitMs)));
-            const bool saving = savingNow(writer.process.processId(), root.path());
+            // A random moment, then on to the next save, and a random point inside it.
+            QRandomGenerator& random = *QRandomGenerator::global();
+            QTest::qSleep(int(random.bounded(1, kLongestWaitMs)));
+            const qint64 pid = writer.process.processId();
+            for (QDeadlineTimer deadline(2000);
+                 !deadline.hasExpired() && !savingNow(pid, root.path());)
+                ;
+            QThread::usleep(random.bounded(kLongestInsideUs));
+            const bool saving = savingNow(pid, root.path());
             writer.process.kill();
             QVERIFY(writer.process.waitForFinished(10000));
 
@@ -119,9 +132,11 @@ private slots:
             }
             cut += saving;
         }
-        // Otherwise every kill fell between two saves and nothing was tried.
-        QVERIFY2(cut > 0, "no kill landed inside a save");
-        qInfo("%d of %d kills landed inside a save", cut, kKills);
+        // Otherwise the kills fell between saves and little was tried.
+        QVERIFY2(
+            cut == kCutsWanted,
+            qPrintable(QStringLiteral("%1 of %2 kills landed inside a save").arg(cut).arg(kill)));
+        qInfo("%d of %d kills landed inside a save", cut, kill);
     }
 };
 
