@@ -1,6 +1,7 @@
 // Framing, checksum, transports and the command catalogue.
 
 #include "CommandCatalogue.h"
+#include "CommandLayouts.h"
 #include "ConsoleModel.h"
 #include "FakeHidBackend.h"
 #include "Frame.h"
@@ -83,6 +84,10 @@ private slots:
         for (int i = 0; i <= 7; ++i)
             sum = quint8(sum + quint8(any.at(i)));
         QCOMPARE(sum, quint8(0xFF));
+        // A bare command is never longer than a frame, whatever length is asked (the console's
+        // and the tool's DoSendCommand take any int).
+        QCOMPARE(CommandLayouts::plain(0x8F, std::numeric_limits<int>::max()).size(), 64);
+        QCOMPARE(CommandLayouts::plain(0x8F, -5).size(), 1);
     }
 
     void wiredReply()

@@ -71,6 +71,10 @@ private slots:
         QTest::newRow("sleep overflow")
             << Op([](auto& c) { c.DoSetSleepTime(1100, 1); })
             << QList<QByteArray>{hex("11 00 00 00 00 00 00 EE 00 00 D0 01")};
+        // 35791395 minutes are 2147483700 s, past a signed 32-bit count: still the low 16 bits.
+        QTest::newRow("sleep past 32 bits")
+            << Op([](auto& c) { c.DoSetSleepTime(35791395, 0); })
+            << QList<QByteArray>{hex("11 00 00 00 00 00 00 EE 34 00 00 00")};
         QTest::newRow("magnetism 2.0 mm") << Op([](auto& c) {
             c.DoSetMagnetism(0x00, 0x29, MagnetTables::rawFromMillimetres(2.0f), 1);
         }) << QList<QByteArray>{hex("65 00 00 00 01 00 00 99 90 01 00 00")};

@@ -20,6 +20,7 @@ using namespace CommandCatalogue;
 constexpr int kChecksumOffset = 7;
 constexpr int kPayloadOffset = 8;
 constexpr int kPagePayload = 56; // bytes a paged write carries per frame
+constexpr int kFrameLength = 64; // the most a frame carries; longer commands lose the rest
 
 constexpr int kLedSpeedSteps = 4; // the keyboard counts LED speed down from here
 
@@ -219,10 +220,11 @@ static_assert(offsetof(ReportRateReply, rate) == 2 && offsetof(SleepTimeReply, s
 
 // ---- Helpers.
 
-// A command that names nothing but its command byte, zero-filled to length (at least 1).
+// A command that names nothing but its command byte, zero-filled to length (1 to a frame's 64:
+// the transports send no more, so a longer one would only cost memory).
 inline QByteArray plain(u8 command, int length = 1)
 {
-    QByteArray c(length < 1 ? 1 : length, '\0');
+    QByteArray c(length < 1 ? 1 : (length > kFrameLength ? kFrameLength : length), '\0');
     c[0] = static_cast<char>(command);
     return c;
 }

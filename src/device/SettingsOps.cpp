@@ -117,7 +117,8 @@ void SettingsOps::DoSetSleepTime(int minutes, int slot)
     if (p.link.isReadingAll()) return;
     std::array<quint16, 4>& times = p.cache.sleepTimes;
     if (slot >= 0 && slot < int(times.size()))
-        times[slot] = static_cast<quint16>(minutes * 60); // kept to 16 bits, as the wire
+        // Kept to 16 bits, as the wire; counted in 64 bits so a large count only wraps.
+        times[slot] = static_cast<quint16>(qint64(minutes) * 60);
     SleepTimeWrite c;
     for (std::size_t i = 0; i < times.size(); ++i)
         putLe(c.seconds[i], times[i]);
