@@ -310,6 +310,20 @@ private slots:
         QTest::newRow("wireless pid without its interface")
             << QStringList{"--simulate", "--wireless", "--pid", "0x502F", "info"} << 3
             << "no wireless keyboard 3151:502F found";
+        // A keyboard that lists one of its two interfaces is no permission problem; an open
+        // that fails is, and says which path and why.
+        QTest::newRow("command interface not listed")
+            << QStringList{"--simulate", "--sim-missing", "2", "info"} << 3
+            << "keyboard 3151:502F lists its input interface (sim:3151:502F:1) but no command "
+               "interface (usage page FFFF, usage 2)";
+        QTest::newRow("input interface not listed")
+            << QStringList{"--simulate", "--sim-missing", "1", "call", "DoReadAll"} << 3
+            << "keyboard 3151:502F lists its command interface (sim:3151:502F:2) but no input "
+               "interface (usage page FFFF, usage 1)";
+        QTest::newRow("command interface refused")
+            << QStringList{"--simulate", "--sim-denied", "2", "info"} << 4
+            << "keyboard 3151:502F is present but cannot be opened: sim:3151:502F:2 (Permission "
+               "denied); on Linux install";
         QTest::newRow("bad call") << QStringList{"--simulate", "call", "DoSetProfile"} << 2
                                   << "call: usage: DoSetProfile u8";
         QTest::newRow("trace not writable")

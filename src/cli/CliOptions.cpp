@@ -72,6 +72,9 @@ bool CliOptions::parse(const QStringList& args, CliOptions* o, QString* error)
             o->simFirmwareVersion = quint16(n);
         } else if (a == QLatin1String("--sim-latency")) {
             if (!takeRange(args, &i, &o->simLatencyMinMs, &o->simLatencyMaxMs, error)) return false;
+        } else if (a == QLatin1String("--sim-missing") || a == QLatin1String("--sim-denied")) {
+            if (!takeNumber(args, &i, 2, &n, error)) return false;
+            (a == QLatin1String("--sim-missing") ? o->simMissingUsage : o->simDeniedUsage) = int(n);
         } else if (a == QLatin1String("--sim-id")) {
             if (!takeNumber(args, &i, 0xFFFFFFFF, &n, error)) return false;
             o->simDeviceId = quint32(n);
@@ -170,6 +173,9 @@ QString CliOptions::usage()
         "                     milliseconds each read on the virtual wireless link takes\n"
         "                     (default 4-30; 0 for none)\n"
         "  --sim-silent       add a virtual keyboard that never answers its identity request\n"
+        "  --sim-missing U, --sim-denied U\n"
+        "                     the virtual wired keyboard's interface of usage U (1 input,\n"
+        "                     2 command) is not listed, or refuses to open\n"
         "                     (list then stops after 30 s with status 5)\n"
         "  --vid N, --pid N   the keyboard's USB ids (default: lastVID/lastPID of device.ini,\n"
         "                     3151/502F when unset; device.ini is in ~/.config/orbehub when\n"
@@ -186,9 +192,9 @@ QString CliOptions::usage()
         text += QStringLiteral("  ") + CallRegistry::signature(op) + QLatin1Char('\n');
     text += QStringLiteral(
         "\n"
-        "Exit status: 0 done; 2 bad command line; 3 no keyboard found; 4 keyboard found but\n"
-        "not opened (permissions); 5 no answer or read not finished within 30 s; 6 backup\n"
-        "file refused (damaged, newer format, another keyboard); 1 other (a restore that\n"
-        "does not read back as the backup).\n");
+        "Exit status: 0 done; 2 bad command line; 3 no keyboard found, or one without both of\n"
+        "its interfaces; 4 an interface failed to open (permissions); 5 no answer or read not\n"
+        "finished within 30 s; 6 backup file refused (damaged, newer format, another\n"
+        "keyboard); 1 other (a restore that does not read back as the backup).\n");
     return text;
 }

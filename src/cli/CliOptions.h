@@ -17,6 +17,10 @@ struct CliOptions
     bool timing = false;
     bool help = false;
     bool simSilent = false; // the virtual keyboard that never answers 8F
+    // An interface of the virtual wired keyboard (usage 1 input, 2 command) not listed, or
+    // listed and refusing to open; 0 for none.
+    int simMissingUsage = 0;
+    int simDeniedUsage = 0;
     quint32 simDeviceId = 0x0AF7;
     quint16 simFirmwareVersion = 0x0300;
     // What each read on the virtual wireless link takes, in milliseconds.

@@ -91,6 +91,12 @@ bool CliSession::openBackend()
         sim.wirelessLatencyMinMs = options.simLatencyMinMs;
         sim.wirelessLatencyMaxMs = options.simLatencyMaxMs;
         auto virtualSet = VirtualHidBackend::createDefaultSet(clock, sim);
+        VirtualKeyboard* wired = virtualSet->wiredKeyboard();
+        auto pathOfUsage = [wired](int usage) {
+            return usage == kWiredInputUsage ? wired->inputPath() : wired->commandPath();
+        };
+        if (options.simMissingUsage) wired->hideInterface(pathOfUsage(options.simMissingUsage));
+        if (options.simDeniedUsage) wired->refuseOpen(pathOfUsage(options.simDeniedUsage));
         VirtualKeyboard* keyboard =
             options.wireless ? virtualSet->wirelessKeyboard() : virtualSet->wiredKeyboard();
         simulated = keyboard;
@@ -118,8 +124,9 @@ bool CliSession::openBackend()
         harness ? std::make_unique<InlineHidExecutor>() : nullptr);
     if (!options.simulate) {
         // What the connection loaded from device.ini, unless given.
-        vid = options.vid.value_or(device->console().vidText().trimmed().toUShort(nullptr, 16));
-        pid = options.pid.value_or(device->console().pidText().trimmed().toUShort(nullptr, 16));
+        // (the console model has named and replaced any that isn't an id)
+        vid = options.vid.value_or(ConsoleModel::parseId(device->console().vidText()).value_or(0));
+        pid = options.pid.value_or(ConsoleModel::parseId(device->console().pidText()).value_or(0));
     }
 
     connect(device.get(), &DialogDeviceConnect::onConnect, this, [this] { opened = true; });
@@ -133,13 +140,16 @@ bool CliSession::connectKeyboard()
 {
     const QString ids = QString::asprintf("%04X:%04X", vid, pid);
     QByteArray wirelessPath;
-    bool listed = false;
+    QList<QByteArray> inputPaths;   // wired, usage 1
+    QList<QByteArray> commandPaths; // wired, usage 2
     for (const HidDeviceInfo& e : hid->enumerate(vid, pid)) {
-        if (options.wireless && isWirelessInterface(e) && wirelessPath.isEmpty())
-            wirelessPath = e.path;
-        listed = listed || (options.wireless ? isWirelessInterface(e) : isWiredInterface(e));
+        if (isWirelessInterface(e) && wirelessPath.isEmpty()) wirelessPath = e.path;
+        if (!isWiredInterface(e)) continue;
+        (e.usage == kWiredInputUsage ? inputPaths : commandPaths).append(e.path);
     }
-    if (!listed) {
+    const QList<QByteArray> paths =
+        options.wireless ? QList<QByteArray>{wirelessPath} : inputPaths + commandPaths;
+    if (options.wireless ? wirelessPath.isEmpty() : paths.isEmpty()) {
         finish(NotFound, options.wireless
                              ? QStringLiteral("no wireless keyboard %1 found (no interface "
                                               "with usage page FF55, usage 0202)")
@@ -147,17 +157,40 @@ bool CliSession::connectKeyboard()
                              : QStringLiteral("no keyboard %1 found").arg(ids));
         return false;
     }
+    if (!options.wireless && (inputPaths.isEmpty() || commandPaths.isEmpty())) {
+        // Nothing to open would help: the keyboard (or its mode) doesn't offer the interface.
+        const bool noInput = inputPaths.isEmpty();
+        finish(NotFound,
+               QStringLiteral("keyboard %1 lists its %2 interface (%3) but no %4 interface "
+                              "(usage page FFFF, usage %5), which the tool needs; plug it in "
+                              "again, or check that it is in its wired mode")
+                   .arg(ids, noInput ? QStringLiteral("command") : QStringLiteral("input"),
+                        QString::fromUtf8(paths.first()),
+                        noInput ? QStringLiteral("input") : QStringLiteral("command"))
+                   .arg(noInput ? kWiredInputUsage : kWiredCommandUsage));
+        return false;
+    }
 
     // The handles open on the connection's I/O thread: whether they did is known when the
     // connect step is done.
-    connect(device.get(), &DialogDeviceConnect::connectStepDone, this, [this, ids] {
+    connect(device.get(), &DialogDeviceConnect::connectStepDone, this, [this, ids, paths] {
         if (options.wireless) opened = device->isConnected();
         if (opened) return;
-        finish(NotOpened,
-               QStringLiteral("keyboard %1 is present but could not be opened: on Linux a "
-                              "permission problem, install packaging/linux/70-orbehub.rules "
-                              "(see README, Troubleshooting)")
-                   .arg(ids));
+        QStringList failed;
+        for (const QByteArray& path : paths)
+            if (const QString why = hid->openFailure(path); !why.isEmpty())
+                failed.append(QStringLiteral("%1 (%2)").arg(QString::fromUtf8(path), why));
+        if (failed.isEmpty()) {
+            finish(Failed, QStringLiteral("keyboard %1 opened, but the connection did not "
+                                          "come up")
+                               .arg(ids));
+            return;
+        }
+        failed.removeDuplicates();
+        finish(NotOpened, QStringLiteral("keyboard %1 is present but cannot be opened: %2; on "
+                                         "Linux install packaging/linux/70-orbehub.rules (see "
+                                         "README, Troubleshooting)")
+                              .arg(ids, failed.join(QStringLiteral(", "))));
     });
     if (options.wireless) {
         device->DoConnectDevice(vid, pid, true, ids, QString::fromUtf8(wirelessPath));

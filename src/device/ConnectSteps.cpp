@@ -58,16 +58,14 @@ void ConnectSteps::connectStep()
         return;
     }
 
-    bool okVid = false;
-    bool okPid = false;
-    const quint16 vid = p.console.vidText().trimmed().toUShort(&okVid, 16);
-    const quint16 pid = p.console.pidText().trimmed().toUShort(&okPid, 16);
-    if (!okVid || !okPid) {
+    const std::optional<quint16> vid = ConsoleModel::parseId(p.console.vidText());
+    const std::optional<quint16> pid = ConsoleModel::parseId(p.console.pidText());
+    if (!vid || !pid) {
         p.link.closeHandles();
         finishWired(false, false, false);
         return;
     }
-    p.link.openWired(vid, pid, [this](DeviceLink::WiredOpen opened) {
+    p.link.openWired(*vid, *pid, [this](DeviceLink::WiredOpen opened) {
         finishWired(opened.input, opened.command, opened.complete());
     });
 }
@@ -94,14 +92,13 @@ void ConnectSteps::finish()
 void ConnectSteps::refreshStep()
 {
     hotplugTimer->stop();
-    bool ok = false;
-    const quint16 vid = p.console.vidText().trimmed().toUShort(&ok, 16);
-    if (!ok) {
+    const std::optional<quint16> vid = ConsoleModel::parseId(p.console.vidText());
+    if (!vid) {
         p.console.setPidList({});
         connectStep();
         return;
     }
-    p.link.enumerate(vid, 0, [this](const QList<HidDeviceInfo>& entries) {
+    p.link.enumerate(*vid, 0, [this](const QList<HidDeviceInfo>& entries) {
         QStringList pids;
         for (const HidDeviceInfo& e : entries)
             if (e.usagePage == kVendorUsagePage && e.usage == kInputUsage)

@@ -19,13 +19,35 @@ constexpr int kLogGroup = 12; // characters of four bytes in hex with their blan
 ConsoleModel::ConsoleModel(Clock* clock, const QString& settingsPath, QObject* parent)
     : QObject(parent), settings(std::make_unique<QSettings>(settingsPath, QSettings::IniFormat))
 {
-    lineVid = settings->value(kVidKey, kDefaultVid).toString();
-    linePid = settings->value(kPidKey, kDefaultPid).toString();
+    lineVid = storedId(kVidKey, kDefaultVid);
+    linePid = storedId(kPidKey, kDefaultPid);
     consoleRows.changed = [this](int row) { emit rowChanged(row); };
     logClearTimer = clock->createTimer([this] { logClearPending = true; }, true);
 }
 
 ConsoleModel::~ConsoleModel() = default;
+
+QString ConsoleModel::storedId(const char* key, const char* fallback) const
+{
+    // A value that is no id would reach hidapi as 0, which opens any vendor's device, and be
+    // written back as 0000: it is named and left aside, and the file keeps it until the next
+    // wired connect writes the ids in use.
+    const QString text = settings->value(QLatin1String(key), QLatin1String(fallback)).toString();
+    if (parseId(text)) return text;
+    qCWarning(lcDevice).noquote() << QStringLiteral("%1: %2 \"%3\" is not a USB id (hexadecimal, "
+                                                    "not 0); %4 is used instead")
+                                         .arg(settings->fileName(), QLatin1String(key), text,
+                                              QLatin1String(fallback));
+    return QLatin1String(fallback);
+}
+
+std::optional<quint16> ConsoleModel::parseId(const QString& text)
+{
+    bool ok = false;
+    const quint16 id = text.trimmed().toUShort(&ok, 16);
+    if (!ok || id == 0) return std::nullopt;
+    return id;
+}
 
 void ConsoleModel::setCommandLine(const QString& text)
 {

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <memory>
+#include <optional>
 
 class Clock;
 class ClockTimer;
@@ -52,6 +53,9 @@ public:
 
     // Keeps the trimmed id texts as the last wired device, in device.ini.
     void rememberIds();
+    // An id text as a USB id: hexadecimal, blanks around it ignored. Nothing when it isn't one,
+    // and for 0, which hidapi would take as "any device".
+    static std::optional<quint16> parseId(const QString& text);
 
     // Logs bytes: to the debug stream, and as a console line (with an empty line after it when
     // lineEnd). After half a second without a line the next one clears the log first.
@@ -75,6 +79,8 @@ signals:
     void rowChanged(int row);
 
 private:
+    QString storedId(const char* key, const char* fallback) const;
+
     std::unique_ptr<QSettings> settings;
     std::unique_ptr<ClockTimer> logClearTimer;
     bool logClearPending = true;

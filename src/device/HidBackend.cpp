@@ -6,3 +6,18 @@ void HidBackend::reportDeviceChange()
     QMetaObject::invokeMethod(
         this, [this] { emit devicePluggined(true); }, Qt::AutoConnection);
 }
+
+QString HidBackend::openFailure(const QByteArray& path) const
+{
+    QMutexLocker locker(&failuresLock);
+    return failures.value(path);
+}
+
+void HidBackend::noteOpen(const QByteArray& path, const QString& failure)
+{
+    QMutexLocker locker(&failuresLock);
+    if (failure.isEmpty())
+        failures.remove(path);
+    else
+        failures.insert(path, failure);
+}

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
+#include <QMutex>
 #include <QObject>
 #include <QString>
 #include <cstddef>
@@ -57,7 +59,19 @@ public:
     // once when called there.
     void reportDeviceChange();
 
+    // Why the last open of a path failed, as the system said it (empty when it didn't fail, or
+    // opened since): for messages that must say more than "could not be opened".
+    virtual QString openFailure(const QByteArray& path) const;
+
+protected:
+    // Backends record each open's outcome; any thread.
+    void noteOpen(const QByteArray& path, const QString& failure = QString());
+
 signals:
     // Arrival, removal and other changes alike, as the system's notice tells no more.
     void devicePluggined(bool plugged);
+
+private:
+    mutable QMutex failuresLock;
+    QHash<QByteArray, QString> failures;
 };

@@ -3,6 +3,7 @@
 #include "DeviceLog.h"
 #include "USBNotifier.h"
 
+#include <cerrno>
 #include <hidapi.h>
 
 namespace {
@@ -73,12 +74,19 @@ QList<HidDeviceInfo> HidapiBackend::enumerate(quint16 vendorId, quint16 productI
 
 HidHandle* HidapiBackend::openPath(const QByteArray& path)
 {
+    errno = 0;
     hid_device* device = hid_open_path(path.constData());
     if (!device) {
-        qCWarning(lcDevice) << "hid_open_path failed for" << path
-                            << "(on Linux this is usually a missing udev rule)";
+        // The system's reason, taken before anything else can change it.
+        const int osError = errno;
+        QString reason = osError ? qt_error_string(osError) : fromWide(hid_error(nullptr));
+        if (reason.isEmpty()) reason = QStringLiteral("no reason given by the system");
+        qCWarning(lcDevice).noquote() << "cannot open" << path << "(" + reason + ")"
+                                      << "(on Linux this is usually a missing udev rule)";
+        noteOpen(path, reason);
         return nullptr;
     }
+    noteOpen(path);
     return new HidapiHandle(device);
 }
 

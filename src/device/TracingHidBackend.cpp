@@ -44,6 +44,11 @@ HidHandle* TracingHidBackend::openPath(const QByteArray& path)
     return inner->openPath(path);
 }
 
+QString TracingHidBackend::openFailure(const QByteArray& path) const
+{
+    return inner->openFailure(path);
+}
+
 void TracingHidBackend::close(HidHandle* handle)
 {
     inner->close(handle);

@@ -25,6 +25,7 @@ public:
     int write(HidHandle* handle, const quint8* data, size_t length) override;
     int read(HidHandle* handle, quint8* data, size_t length) override;
     int readTimeout(HidHandle* handle, quint8* data, size_t length, int milliseconds) override;
+    QString openFailure(const QByteArray& path) const override;
 
     // The trace line for one transfer, without the time.
     static QString line(bool toDevice, const char* kind, const quint8* data, size_t length);

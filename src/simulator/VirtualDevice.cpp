@@ -45,6 +45,18 @@ bool VirtualDevice::isPlugged() const
     return plugged;
 }
 
+void VirtualDevice::hideInterface(const QByteArray& path)
+{
+    std::lock_guard guard(lock);
+    hiddenPaths.append(path);
+}
+
+void VirtualDevice::refuseOpen(const QByteArray& path)
+{
+    std::lock_guard guard(lock);
+    refusedPaths.append(path);
+}
+
 int VirtualDevice::readDelayMs(int)
 {
     return 0;

@@ -25,6 +25,11 @@ public:
     void unplug();
     void replug();
     bool isPlugged() const;
+    // One interface, by its path: left out of the enumeration (as a keyboard in another mode
+    // lists only some of its interfaces), or listed but refusing to open, as without the
+    // permission.
+    void hideInterface(const QByteArray& path);
+    void refuseOpen(const QByteArray& path);
 
 protected:
     VirtualDevice(std::mutex& backendLock, Clock* clock);
@@ -65,6 +70,8 @@ private:
     void notifyPlug(bool nowPlugged);
 
     bool plugged = true;
+    QList<QByteArray> hiddenPaths;
+    QList<QByteArray> refusedPaths;
     quint64 generation = 0; // bumped by unplug(); a handle is live while its generation matches
     const std::function<void(bool)>* plugListener = nullptr; // the backend's
 };

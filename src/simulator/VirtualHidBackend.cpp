@@ -120,7 +120,8 @@ QList<HidDeviceInfo> VirtualHidBackend::enumerate(quint16 vendorId, quint16 prod
     for (const auto& device : devices) {
         if (!device->plugged) continue;
         for (const HidDeviceInfo& info : device->interfaces())
-            if ((vendorId == 0 || info.vendorId == vendorId) &&
+            if (!device->hiddenPaths.contains(info.path) &&
+                (vendorId == 0 || info.vendorId == vendorId) &&
                 (productId == 0 || info.productId == productId))
                 found.append(info);
     }
@@ -135,6 +136,11 @@ HidHandle* VirtualHidBackend::openPath(const QByteArray& path)
         const QList<HidDeviceInfo> entries = device->interfaces();
         for (int i = 0; i < entries.size(); ++i) {
             if (entries[i].path == path) {
+                if (device->refusedPaths.contains(path)) {
+                    noteOpen(path, QStringLiteral("Permission denied"));
+                    return nullptr;
+                }
+                noteOpen(path);
                 handles.push_back(
                     std::make_unique<VirtualHandle>(device.get(), i, device->generation));
                 return handles.back().get();
@@ -142,6 +148,7 @@ HidHandle* VirtualHidBackend::openPath(const QByteArray& path)
         }
     }
     qCDebug(lcSimulator) << "no device at" << path;
+    noteOpen(path, QStringLiteral("No such device"));
     return nullptr;
 }
 
