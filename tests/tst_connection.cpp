@@ -319,6 +319,25 @@ private slots:
         QCOMPARE(rig.hid.inputReports.size(), size_t(0));
     }
 
+    // The poll reads every 20 ms while the input handle is open, and wakes nothing without it:
+    // before the first connect, and after the keyboard is gone.
+    void inputPollOnlyWithAnInputHandle()
+    {
+        Rig rig;
+        const int unconnected = rig.clock.pendingCount(); // the connection's other timers
+        rig.connectAndSettle();
+        QCOMPARE(rig.clock.pendingCount(), unconnected + 1);
+        for (int i = 0; i < 20; ++i)
+            rig.hid.inputReports.push_back(hex("01 02 03 04"));
+        rig.clock.advance(200);
+        QCOMPARE(rig.hid.inputReports.size(), size_t(10));
+        rig.hid.entries.clear();
+        rig.conn->connectStep();
+        rig.clock.advance(1000);
+        QCOMPARE(rig.clock.pendingCount(), unconnected);
+        QCOMPARE(rig.hid.inputReports.size(), size_t(10));
+    }
+
     void stepArmedBeforeDisconnectDoesNothing()
     {
         Rig rig;

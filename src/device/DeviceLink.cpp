@@ -31,7 +31,7 @@ DeviceLink::DeviceLink(HidBackend& backend, Clock& linkClock, HidExecutor& execu
 {
     inputPollTimer = clock.createTimer([this] { pollInput(); }, true);
     sendTimer = clock.createTimer([this] { pumpStep(); }, true);
-    inputPollTimer->start(kPollIntervalMs);
+    // The poll's timer runs while there is an input handle to read (adopt), not before.
 }
 
 DeviceLink::~DeviceLink()
@@ -74,6 +74,7 @@ void DeviceLink::closeHandles()
     ++*generation;
     closeLater({inputHandle, commandHandle, musicHandle});
     inputHandle = commandHandle = musicHandle = nullptr;
+    inputPollTimer->stop(); // nothing to read: an idle hub doesn't wake for it
 }
 
 void DeviceLink::closeLater(const Handles& handles)
@@ -93,6 +94,7 @@ void DeviceLink::adopt(const Handles& opened)
     inputHandle = opened.input;
     commandHandle = opened.command;
     musicHandle = opened.music;
+    if (inputHandle && !inputPollTimer->isActive()) inputPollTimer->start(kPollIntervalMs);
 }
 
 void DeviceLink::openWireless(const QByteArray& path, std::function<void(bool)> done)
@@ -267,7 +269,8 @@ void DeviceLink::stopMusicRound()
 void DeviceLink::pollInput()
 {
     inputPollTimer->stop();
-    if (!inputHandle || readingAll) {
+    if (!inputHandle) return; // closed since: the next adopt starts the poll again
+    if (readingAll) {
         inputPollTimer->start(kPollIntervalMs);
         return;
     }
@@ -282,6 +285,7 @@ void DeviceLink::pollInput()
         },
         [this, armed](QByteArray report) {
             if (!report.isEmpty() && armed == *generation && hooks.input) hooks.input(report);
-            inputPollTimer->start(kPollIntervalMs);
+            // Closed while the read was out: the poll stays stopped until the next adopt.
+            if (inputHandle) inputPollTimer->start(kPollIntervalMs);
         });
 }
