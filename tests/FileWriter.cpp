@@ -6,10 +6,13 @@
 //   orbe_file_writer works DIR      the light works library, DIR/work/ledwork.json
 //   orbe_file_writer settings       the per-user values ($XDG_CONFIG_HOME/Orbe.conf)
 //   orbe_file_writer autostart      the autostart entry ($XDG_CONFIG_HOME/autostart/)
+//   orbe_file_writer device DIR     the last wired ids, DIR/config/device.ini
 //   ... --once N                    saves version N once and ends: the file to expect
 //
 // It prints "ready" once the file exists, then keeps saving.
 
+#include "Clock.h"
+#include "ConsoleModel.h"
 #include "LightWorkStore.h"
 #include "LinuxPlatform.h"
 #include "ModuleMacroManager.h"
@@ -117,8 +120,20 @@ int main(int argc, char* argv[])
             },
             once);
     }
-    std::fputs(
-        "usage: orbe_file_writer macro DIR | works DIR | settings | autostart [--once 0|1]\n",
-        stderr);
+    if (kind == QLatin1String("device")) {
+        ConsoleModel console(QtClock::shared(),
+                             args.value(1) + QStringLiteral("/config/device.ini"));
+        return run(
+            [&](int version) {
+                console.setVidText(version ? QStringLiteral("25A7") : QStringLiteral("3151"));
+                console.setPidText(version ? QStringLiteral("FA70") : QStringLiteral("502F"));
+                console.rememberIds();
+                return true;
+            },
+            once);
+    }
+    std::fputs("usage: orbe_file_writer macro DIR | works DIR | settings | autostart | device DIR "
+               "[--once 0|1]\n",
+               stderr);
     return 2;
 }

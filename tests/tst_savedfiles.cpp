@@ -24,6 +24,7 @@ const QList<Target> kTargets{
     {"works", {"work/ledwork.json"}},
     {"settings", {"config/Orbe.conf"}},
     {"autostart", {"config/autostart/orbehub.desktop"}},
+    {"device", {"config/device.ini"}},
 };
 
 // Kills go on until this many landed inside a save (the rest fell between two saves).
@@ -43,8 +44,9 @@ struct Writer
         env.insert("XDG_CONFIG_HOME", root + "/config");
         process.setProcessEnvironment(env);
         QStringList args{QString::fromLatin1(target.kind)};
-        if (QLatin1String(target.kind) == QLatin1String("macro") ||
-            QLatin1String(target.kind) == QLatin1String("works"))
+        const QLatin1String kind(target.kind);
+        if (kind == QLatin1String("macro") || kind == QLatin1String("works") ||
+            kind == QLatin1String("device"))
             args << root;
         process.start(QStringLiteral(ORBE_FILE_WRITER), args + extra);
     }
