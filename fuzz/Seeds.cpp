@@ -1,10 +1,15 @@
 // Writes the seed inputs of the file targets, as the stores themselves save them:
 //   fuzz_seeds OUTDIR
 // OUTDIR/fuzz_macrostore/: a header and event files, each behind the byte that picks its kind
-// (0 header, 1 events); OUTDIR/fuzz_lightworks/: works libraries with real pictures and maps.
+// (0 header, 1 events); OUTDIR/fuzz_lightworks/: works libraries with real pictures and maps;
+// OUTDIR/fuzz_replies/: what the virtual keyboard answers a connection, wired and wireless.
 
 #include "LightWorkStore.h"
+#include "ModuleGenKeymapping.h"
 #include "ModuleMacroManager.h"
+#include "ReplyScript.h"
+#include "VirtualHidBackend.h"
+#include "VirtualKeyboard.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -95,6 +100,86 @@ bool macros(const QString& out)
     return ok;
 }
 
+// Passes every call to the virtual keyboards and keeps what their reads hand over, as the
+// reply target's chunks.
+class RecordingBackend : public HidBackend
+{
+public:
+    explicit RecordingBackend(HidBackend& devices) : inner(devices) {}
+    QByteArray script;
+
+    QList<HidDeviceInfo> enumerate(quint16 vid, quint16 pid) override
+    {
+        return inner.enumerate(vid, pid);
+    }
+    HidHandle* openPath(const QByteArray& path) override { return inner.openPath(path); }
+    void close(HidHandle* handle) override { inner.close(handle); }
+    int setNonblocking(HidHandle* handle, bool on) override
+    {
+        return inner.setNonblocking(handle, on);
+    }
+    int sendFeatureReport(HidHandle* handle, const quint8* data, size_t length) override
+    {
+        return inner.sendFeatureReport(handle, data, length);
+    }
+    int write(HidHandle* handle, const quint8* data, size_t length) override
+    {
+        return inner.write(handle, data, length);
+    }
+    int getFeatureReport(HidHandle* handle, quint8* data, size_t length) override
+    {
+        return keep(inner.getFeatureReport(handle, data, length), data, false);
+    }
+    int readTimeout(HidHandle* handle, quint8* data, size_t length, int ms) override
+    {
+        return keep(inner.readTimeout(handle, data, length, ms), data, false);
+    }
+    int read(HidHandle* handle, quint8* data, size_t length) override
+    {
+        // The poll's empty reads, and the key test's stream every 20 ms, would be most of the
+        // seed: the first reports are kept, which is all the handling there is to reach.
+        const int n = inner.read(handle, data, length);
+        return n > 0 && inputsKept++ < kInputsKept ? keep(n, data, true) : n;
+    }
+
+private:
+    static constexpr int kInputsKept = 16;
+    int inputsKept = 0;
+
+    int keep(int result, const quint8* data, bool input)
+    {
+        script += ReplyScript::chunk(data, result > 0 ? result : 0, input);
+        return result;
+    }
+    HidBackend& inner;
+};
+
+bool replies(const QString& out)
+{
+    const ModuleGenKeymapping keys;
+    bool ok = true;
+    // Wired and wireless, the read alone and with every extra operation after it.
+    for (const quint8 setup : {quint8(0x00), quint8(0x01), quint8(0xFE), quint8(0xFF)}) {
+        ManualClock clock;
+        VirtualHidBackend devices(&clock);
+        devices.addWiredKeyboard();
+        devices.addWirelessKeyboard()->setLinkLatency(0, 0);
+        RecordingBackend recorder(devices);
+        QTemporaryDir dir;
+        {
+            DialogDeviceConnect connection(&recorder, &clock, keys,
+                                           dir.filePath(QStringLiteral("device.ini")),
+                                           std::make_unique<InlineHidExecutor>());
+            ReplyScript::drive(connection, clock, setup, [] { return false; });
+        }
+        QFile file(
+            QDir(out).filePath(QStringLiteral("virtual-%1").arg(int(setup), 2, 16, QChar(u'0'))));
+        ok = ok && file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+             file.write(QByteArray(1, char(setup)) + recorder.script) > 0;
+    }
+    return ok;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -102,9 +187,11 @@ int main(int argc, char* argv[])
     QCoreApplication app(argc, argv);
     const QDir out(app.arguments().value(1));
     if (out.path().isEmpty() || !out.mkpath(QStringLiteral("fuzz_macrostore")) ||
-        !out.mkpath(QStringLiteral("fuzz_lightworks")))
+        !out.mkpath(QStringLiteral("fuzz_lightworks")) ||
+        !out.mkpath(QStringLiteral("fuzz_replies")))
         return 2;
     const bool ok = macros(out.filePath(QStringLiteral("fuzz_macrostore"))) &&
-                    lightWorks(out.filePath(QStringLiteral("fuzz_lightworks")));
+                    lightWorks(out.filePath(QStringLiteral("fuzz_lightworks"))) &&
+                    replies(out.filePath(QStringLiteral("fuzz_replies")));
     return ok ? 0 : 1;
 }
