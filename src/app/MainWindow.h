@@ -137,6 +137,7 @@ private:
     void paintFloat(QWidget* target);
     void countLogoClick();
     void returnToCards();
+    void dropStaleReturn();
     void createSiblingHost(const QString& dir);
     void showTopLevelSibling(Platform::WindowId window);
     void showEmbeddedSibling(Platform::WindowId window);

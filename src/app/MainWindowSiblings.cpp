@@ -205,13 +205,26 @@ void MainWindow::showSiblingStatus(const QString& text)
 
 void MainWindow::askReturn()
 {
+    armReturnWatch(); // first: it drops what was raised before
     platform.setUserValue(QStringLiteral("OrbeReturn"), 1);
-    armReturnWatch();
 }
 
 void MainWindow::armReturnWatch()
 {
-    if (returnTimer && !returnTimer->isActive()) returnTimer->start(kReturnWatchMs);
+    if (!returnTimer || returnTimer->isActive()) return;
+    dropStaleReturn();
+    returnTimer->start(kReturnWatchMs);
+}
+
+void MainWindow::dropStaleReturn()
+{
+    // Raised while nothing of this window watched: there is nothing to return from, and taking
+    // it now would throw the user out of the page they are opening.
+    for (const char* key : {"OrbeReturn", "TarnwickReturn"}) {
+        if (platform.userValue(QLatin1String(key)).toInt() == 0) continue;
+        qCDebug(lcApp) << "dropping" << key << "raised while nothing watched";
+        platform.setUserValue(QLatin1String(key), 0);
+    }
 }
 
 bool MainWindow::isWatchingReturn() const
