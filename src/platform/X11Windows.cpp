@@ -51,8 +51,10 @@ QList<xcb_window_t> topLevelWindows(xcb_connection_t* c, xcb_atom_t clientList)
     const xcb_window_t root = rootWindow(c);
     const QByteArray list = property(c, root, clientList, XCB_ATOM_WINDOW);
     QList<xcb_window_t> windows(list.size() / qsizetype(sizeof(xcb_window_t)));
-    std::memcpy(windows.data(), list.constData(), windows.size() * sizeof(xcb_window_t));
-    if (!windows.isEmpty()) return windows;
+    if (!windows.isEmpty()) {
+        std::memcpy(windows.data(), list.constData(), windows.size() * sizeof(xcb_window_t));
+        return windows;
+    }
     const Reply<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(c, xcb_query_tree(c, root), nullptr));
     if (!tree) return {};
