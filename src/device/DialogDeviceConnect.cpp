@@ -194,6 +194,7 @@ void DialogDeviceConnect::DoSetLedOnOff(bool off)
 void DialogDeviceConnect::DoSetLedEffect(int effect, quint8 option)
 {
     settings->DoSetLedEffect(effect, option);
+    if (data.musicOn) music->wake();
 }
 
 void DialogDeviceConnect::DoSetLedSpeed(quint8 speed)
