@@ -47,8 +47,8 @@ struct PulseLoopbackCapture::Private
 
     void openStream()
     {
-        const pa_sample_spec spec{PA_SAMPLE_FLOAT32NE, kPlaceholderRate, kChannels};
-        stream = pa_stream_new(context, kStreamName, &spec, nullptr);
+        const pa_sample_spec sampleFormat{PA_SAMPLE_FLOAT32NE, kPlaceholderRate, kChannels};
+        stream = pa_stream_new(context, kStreamName, &sampleFormat, nullptr);
         if (!stream) {
             fail("stream", pa_context_errno(context));
             return;
